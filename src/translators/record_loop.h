@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "exporters/CIDataExporter.h"
+#include "model/CIProgressCallback.h"
+#include "model/PRData.h"
+
+/// Whether the loop opens and closes each record at the exporter.
+enum class ItemCalls { None, BeginAndEnd };
+
+/// The walk over the selected records that all translator families share. `Item` is the family's
+/// record class; records of another class are passed over. A cancel ends the walk, and the footer
+/// is still written; false means that something could not be written.
+template <typename Item, ItemCalls kItemCalls, typename Translator>
+bool translateRecords(Translator& translator, const PRData& data, CIDataExporter* exporter,
+    const QString& title, CIProgressCallback* progress)
+{
+    if (!translator.prepare(exporter, title, progress)) {
+        return false;
+    }
+    const QList<int> rows = data.recoverList();
+    double unit = 0.0;
+    if (progress != nullptr && !rows.isEmpty()) {
+        unit = static_cast<double>(progress->range()) / static_cast<double>(rows.size());
+    }
+    if (!translator.writeHeader(exporter)) {
+        return false;
+    }
+    for (const int row : rows) {
+        // Before the record's work: it is also taken for records that are passed over.
+        if (progress != nullptr && !progress->step(unit)) {
+            break;
+        }
+        auto* item = dynamic_cast<Item*>(data.at(row, true));
+        if (item == nullptr) {
+            continue;
+        }
+        if constexpr (kItemCalls == ItemCalls::BeginAndEnd) {
+            if (!exporter->beginItem(item->value(0))) {
+                continue;
+            }
+        }
+        bool written = translator.writeItem(exporter, item);
+        if constexpr (kItemCalls == ItemCalls::BeginAndEnd) {
+            written = exporter->endItem() && written; // also after a failed record
+        }
+        if (!written) {
+            return false;
+        }
+    }
+    return translator.writeFooter(exporter);
+}
