@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "driver/CBackupExporter.h"
 
+#include "driver/stage.h"
 #include "model/CSubProgress.h"
 #include "model/PRBackup.h"
 
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -18,20 +20,17 @@ constexpr int kUnitsPerRecord = 100;
 // The types whose media may have to be fetched.
 constexpr std::array kAttachmentTypes{14, 15};
 
-// The set of a category that is to be written; null for one that is not.
-PRData* wantedSet(const PRBackup& backup, const QVector<int>& dataTypes, int dataType)
+int categoryWeight(const PRBackup& backup, const QVector<int>& dataTypes, int dataType)
 {
-    PRData* data = dataTypes.contains(dataType) ? backup.getPRData(dataType) : nullptr;
-    return data != nullptr && data->recoverCount() != 0 ? data : nullptr;
+    const PRData* data = dataTypes.contains(dataType) ? backup.getPRData(dataType) : nullptr;
+    return data != nullptr ? data->recoverCount() * kUnitsPerRecord : 0;
 }
 
 } // namespace
 
-bool CBackupExporter::exportBackup(PRBackup* backup, const QDir& dir, CIProgressCallback* progress,
-    const QVector<int>& dataTypes, bool convertHeic, QString ownerName)
-{
+struct CBackupExporter::DispatchTable {
     // The order in which categories are counted and written.
-    const std::array<CategoryEntry, kDataTypeCount> table{{
+    std::array<CategoryEntry, kDataTypeCount> rows{{
         {21, exportFile},
         {22, exportFile},
         {23, exportFile},
@@ -69,13 +68,19 @@ bool CBackupExporter::exportBackup(PRBackup* backup, const QDir& dir, CIProgress
         {35, exportFile},
         {4, exportFile},
     }};
+};
 
+// NOLINTBEGIN(performance-unnecessary-value-param): the name comes by value in the host's contract
+bool CBackupExporter::exportBackup(PRBackup* backup, const QDir& dir, CIProgressCallback* progress,
+    const QVector<int>& dataTypes, bool convertHeic, QString ownerName)
+// NOLINTEND(performance-unnecessary-value-param)
+{
+    const DispatchTable table;
     QVector<int> weights;
     weights.reserve(kDataTypeCount);
     int attachWeight = 0;
-    for (const CategoryEntry& category : table) {
-        const PRData* data = wantedSet(*backup, dataTypes, category.dataType);
-        const int weight = data != nullptr ? data->recoverCount() * kUnitsPerRecord : 0;
+    for (const CategoryEntry& category : table.rows) {
+        const int weight = categoryWeight(*backup, dataTypes, category.dataType);
         weights.append(weight);
         if (std::ranges::find(kAttachmentTypes, category.dataType) != kAttachmentTypes.end()) {
             attachWeight += weight;
@@ -88,7 +93,7 @@ bool CBackupExporter::exportBackup(PRBackup* backup, const QDir& dir, CIProgress
     }
     bool running = true;
     for (int row = 0; row < kDataTypeCount && running && total != 0; ++row) {
-        const CategoryEntry& category = table.at(static_cast<std::size_t>(row));
+        const CategoryEntry& category = table.rows.at(static_cast<std::size_t>(row));
         // Asked afresh: the stored weight is for the scale alone.
         PRData* data = wantedSet(*backup, dataTypes, category.dataType);
         if (data == nullptr) {

@@ -47,6 +47,7 @@ private:
         int dataType;
         Entry entry;
     };
+    struct DispatchTable;
 
     static bool exportBookmark(PRData* data, const QDir& dir, const QString& ownerName,
         const QString& categoryName, CIProgressCallback* progress, CBackupExporter* owner,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Media that the backup holds only as an address: collected after the categories are written.
 #include "driver/CBackupExporter.h"
+#include "driver/stage.h"
 #include "model/CIProgressCallback.h"
 #include "model/PRBackup.h"
 #include "model/PRFileItem.h"
@@ -8,6 +9,9 @@
 #include "platform/literals.h"
 
 #include <QDir>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -19,12 +23,6 @@ constexpr int kUnitsPerAttachment = 100;
 bool isAddress(const QString& text)
 {
     return text.startsWith("http"_L1);
-}
-
-PRData* selectedSet(PRBackup* backup, int dataType, const QVector<int>& dataTypes)
-{
-    PRData* data = dataTypes.contains(dataType) ? backup->getPRData(dataType) : nullptr;
-    return data != nullptr && data->recoverCount() != 0 ? data : nullptr;
 }
 
 } // namespace
@@ -54,7 +52,7 @@ bool CBackupExporter::runAttachmentStage(PRBackup* backup, const QDir& dir,
 void CBackupExporter::getDownloadChatMsg(
     QList<PRWhatsappMsg*>& msgs, int dataType, PRBackup* backup, const QVector<int>& dataTypes)
 {
-    PRData* data = selectedSet(backup, dataType, dataTypes);
+    PRData* data = wantedSet(*backup, dataTypes, dataType);
     if (data == nullptr) {
         return;
     }
@@ -76,7 +74,7 @@ void CBackupExporter::getDownloadChatMsg(
 void CBackupExporter::getDownloadFileItem(
     QList<PRFileItem*>& items, int dataType, PRBackup* backup, const QVector<int>& dataTypes)
 {
-    PRData* data = selectedSet(backup, dataType, dataTypes);
+    PRData* data = wantedSet(*backup, dataTypes, dataType);
     if (data == nullptr) {
         return;
     }

@@ -8,6 +8,22 @@
 /// Whether the loop opens and closes each record at the exporter.
 enum class ItemCalls { None, BeginAndEnd };
 
+/// One record of the walk. False when it could not be written; one that the exporter refuses is
+/// passed over and no failure.
+template <typename Item, ItemCalls kItemCalls, typename Translator>
+bool translateRecord(Translator& translator, CIDataExporter* exporter, Item* item)
+{
+    if constexpr (kItemCalls == ItemCalls::None) {
+        return translator.writeItem(exporter, item);
+    } else {
+        if (!exporter->beginItem(item->value(0))) {
+            return true;
+        }
+        const bool written = translator.writeItem(exporter, item);
+        return exporter->endItem() && written; // ended after a failure too
+    }
+}
+
 /// The walk over the selected records that all translator families share. `Item` is the family's
 /// record class; records of another class are passed over. A cancel ends the walk, and the footer
 /// is still written; false means that something could not be written.
@@ -32,19 +48,7 @@ bool translateRecords(Translator& translator, const PRData& data, CIDataExporter
             break;
         }
         auto* item = dynamic_cast<Item*>(data.at(row, true));
-        if (item == nullptr) {
-            continue;
-        }
-        if constexpr (kItemCalls == ItemCalls::BeginAndEnd) {
-            if (!exporter->beginItem(item->value(0))) {
-                continue;
-            }
-        }
-        bool written = translator.writeItem(exporter, item);
-        if constexpr (kItemCalls == ItemCalls::BeginAndEnd) {
-            written = exporter->endItem() && written; // also after a failed record
-        }
-        if (!written) {
+        if (item != nullptr && !translateRecord<Item, kItemCalls>(translator, exporter, item)) {
             return false;
         }
     }
