@@ -13,7 +13,18 @@
 
 #include <QCoreApplication>
 
+#include <array>
+
 namespace {
+
+constexpr std::array kColumns{
+    QT_TRANSLATE_NOOP("DataExport", "Name"),
+    QT_TRANSLATE_NOOP("DataExport", "Phone"),
+    QT_TRANSLATE_NOOP("DataExport", "Email"),
+    QT_TRANSLATE_NOOP("DataExport", "Date"),
+    QT_TRANSLATE_NOOP("DataExport", "Type"),
+    QT_TRANSLATE_NOOP("DataExport", "Content"),
+};
 
 QString label(const char* source)
 {
@@ -22,9 +33,9 @@ QString label(const char* source)
 
 // The type cells, translated and quoted once for a conversation.
 struct TypeCells {
-    QString unknown = csvQuote(label("Unknown"));
-    QString sent = csvQuote(label("Sent"));
-    QString received = csvQuote(label("Received"));
+    QString unknown = csvQuote(label(QT_TRANSLATE_NOOP("DataExport", "Unknown")));
+    QString sent = csvQuote(label(QT_TRANSLATE_NOOP("DataExport", "Sent")));
+    QString received = csvQuote(label(QT_TRANSLATE_NOOP("DataExport", "Received")));
 
     // A message that was not sent completely is "Unknown", whichever way it went.
     const QString& of(const PRSMSChat& message) const
@@ -88,8 +99,10 @@ bool CSMS2CSVTranslate::prepare(
     CIDataExporter* exporter, const QString& /*title*/, CIProgressCallback* /*progress*/)
 {
     // The labels go out bare, unlike every other cell.
-    const QStringList labels{label("Name"), label("Phone"), label("Email"), label("Date"),
-        label("Type"), label("Content")};
+    QStringList labels;
+    for (const char* column : kColumns) {
+        labels.append(label(column));
+    }
     return exporter->write(labels.join(QChar(u',')) + QChar(u'\n'));
 }
 
@@ -121,7 +134,7 @@ bool CSMS2CSVTranslate::writeItem(CIDataExporter* exporter, PRSMSItem* item)
         row += csvQuote(CCommonUtils::datetimeToMinute(message->msgDate(), true));
         row += QChar(u',');
         row += types.of(*message);
-        row += ",\""_L1;
+        row += R"(,")"_L1;
         ContentCell content(row);
         addContent(content, *message, conversation.addrIds());
         if (content.isEmpty()) {
