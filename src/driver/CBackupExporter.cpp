@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "driver/CBackupExporter.h"
 
+#include "driver/category_order.h"
 #include "driver/stage.h"
 #include "model/CSubProgress.h"
 #include "model/PRBackup.h"
@@ -14,8 +15,6 @@
 #include <utility>
 
 namespace {
-
-constexpr int kUnitsPerRecord = 100;
 
 // The types whose media may have to be fetched.
 constexpr std::array kAttachmentTypes{14, 15};
@@ -75,7 +74,8 @@ bool CBackupExporter::exportBackup(PRBackup* backup, const QDir& dir, CIProgress
     const QVector<int>& dataTypes, bool convertHeic, QString ownerName)
 // NOLINTEND(performance-unnecessary-value-param)
 {
-    const DispatchTable table;
+    constexpr DispatchTable table;
+    static_assert(std::ranges::equal(table.rows, kCategoryOrder, {}, &CategoryEntry::dataType));
     QVector<int> weights;
     weights.reserve(kDataTypeCount);
     int attachWeight = 0;
