@@ -13,14 +13,15 @@
 #include <sqlite3.h>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
 enum Flags { RegularFile = 1, Directory = 2, Link = 4 };
 
 const QStringList kManifestSchema = {
-    "CREATE TABLE Files (fileID TEXT PRIMARY KEY, domain TEXT, relativePath TEXT, flags INTEGER, "
-    "file BLOB)",
+    R"(CREATE TABLE Files (fileID TEXT PRIMARY KEY, domain TEXT, relativePath TEXT,
+                           flags INTEGER, file BLOB))",
     "CREATE INDEX FilesDomainIdx ON Files(domain)",
     "CREATE INDEX FilesRelativePathIdx ON Files(relativePath)",
     "CREATE INDEX FilesFlagsIdx ON Files(flags)",

@@ -19,7 +19,7 @@
 /// its own over the finished one.
 class BackupBuilder {
 public:
-    explicit BackupBuilder(const QString& directory);
+    explicit BackupBuilder(QString directory);
 
     /// A regular file with its payload.
     BackupBuilder& add(const QString& domain, const QString& path, const QByteArray& bytes);

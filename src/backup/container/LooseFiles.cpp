@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "backup/container/LooseFiles.h"
+
+#include "backup/container/manifest_path.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+
+namespace backup {
+
+namespace {
+
+// "a/b/c", "b/c", "c"
+QStringList tailsOf(const QString& path)
+{
+    QStringList tails;
+    const QStringList parts = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    for (int first = 0; first < parts.size(); ++first) {
+        tails.append(parts.mid(first).join(QLatin1Char('/')));
+    }
+    return tails;
+}
+
+// A link may stand for what lies elsewhere in the directory, and for nothing outside.
+bool liesBelow(const QDir& directory, const QString& path)
+{
+    const QString root = directory.canonicalPath();
+    return !root.isEmpty()
+           && QFileInfo(path).canonicalFilePath().startsWith(
+               root.endsWith(QLatin1Char('/')) ? root : root + QLatin1Char('/'));
+}
+
+// The first tail of `path` below the directory that is accepted, as a path on this computer.
+template <typename Accepts>
+QString firstTail(const QDir& directory, const QString& path, Accepts accepts)
+{
+    if (!isSafeRelativePath(path)) {
+        return {};
+    }
+    const QStringList tails = tailsOf(path);
+    for (const QString& tail : tails) {
+        const QStringList forms = unicodeForms(tail);
+        for (const QString& form : forms) {
+            QString candidate = directory.filePath(form);
+            if (accepts(QFileInfo(candidate)) && liesBelow(directory, candidate)) {
+                return candidate;
+            }
+        }
+    }
+    return {};
+}
+
+QStringList plainFilesBelow(const QString& folder)
+{
+    QStringList paths;
+    const QDir root(folder);
+    QDirIterator files(
+        folder, QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        paths.append(root.relativeFilePath(files.next()));
+    }
+    paths.sort();
+    return paths;
+}
+
+} // namespace
+
+QString LooseFiles::locate(const QString& /*domain*/, const QString& relativePath) const
+{
+    return firstTail(
+        m_directory, relativePath, [](const QFileInfo& file) { return file.isFile(); });
+}
+
+QStringList LooseFiles::filesBelow(const QString& /*domain*/, const QString& directory) const
+{
+    const QString shown = withoutTrailingSlashes(directory);
+    const QString folder =
+        firstTail(m_directory, shown, [](const QFileInfo& file) { return file.isDir(); });
+    QStringList paths;
+    if (!folder.isEmpty()) {
+        paths = plainFilesBelow(folder);
+    }
+    for (QString& path : paths) {
+        path.prepend(shown + QLatin1Char('/'));
+    }
+    return paths;
+}
+
+} // namespace backup
