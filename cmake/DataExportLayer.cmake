@@ -33,6 +33,7 @@ function(dataexport_layer name)
     if(LAYER_SOURCES)
         list(TRANSFORM LAYER_SOURCES PREPEND "${CMAKE_SOURCE_DIR}/src/${LAYER_FOLDER}/")
         add_library(${name} OBJECT ${LAYER_SOURCES})
+        set_property(GLOBAL APPEND PROPERTY DATAEXPORT_LAYERS ${name}) # for the tests
         target_link_libraries(${name}
             PRIVATE dataexport_options dataexport_strict_text
             PUBLIC Qt5::Core Qt5::Gui ${LAYER_LINKS})
