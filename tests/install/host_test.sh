@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Installs a build, builds a small host against it and looks at the file that the host exports.
+#
+#   host_test.sh BUILD_DIR WORK_DIR CMAKE COMPILER FLAGS
+set -euo pipefail
+
+build=$1 work=$2 cmake=$3 compiler=$4 flags=$5
+prefix=$work/prefix
+here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
+
+fail()
+{
+    printf 'FAILED: %s\n' "$*" >&2
+    exit 1
+}
+
+rm -rf -- "$prefix" "$work/out"
+"$cmake" --install "$build" --prefix "$prefix" >"$work/install.log"
+
+# A host elsewhere finds all that it needs in the prefix, and nothing of the build beside it.
+"$cmake" -G Ninja -S "$here/host" -B "$work/host" -DCMAKE_CXX_COMPILER="$compiler" \
+    -DCMAKE_CXX_FLAGS="$flags" -DCMAKE_PREFIX_PATH="$prefix" >"$work/host.log"
+"$cmake" --build "$work/host" >>"$work/host.log" || { cat "$work/host.log"; fail "the host does not build"; }
+ldd "$work/host/host" | grep -qF "=> $prefix/" || fail "the host runs with another library"
+if grep -rlF -e "$build" "$prefix" --include='*.cmake' --include='*.h'; then
+    fail "these files name the folder of the build"
+fi
+
+mkdir "$work/out"
+QT_QPA_PLATFORM=offscreen "$work/host/host" "$work/out"
+
+csv="$work/out/Messages/Mia's Messages.csv"
+[ -f "$csv" ] || fail "there is no '$csv'"
+iconv -f UTF-16 -t UTF-8 "$csv" | grep -qF '"Received","See you at Luna?"' \
+    || fail "the message is not in '$csv'"
+
+program=$prefix/bin/dataexport
+if [ -e "$program" ]; then
+    "$program" --help >/dev/null || fail "the installed program does not run"
+fi
+[ -f "$prefix/share/doc/DataExport/LICENSE" ] || fail "there is no licence"
+[ -d "$prefix/share/dataexport/DataExport" ] || fail "there is no folder of images"
