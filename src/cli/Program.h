@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+class Console;
+
+/// The whole program. `arguments` without its name; returns one of `ExitStatus`.
+int runProgram(std::vector<std::string> arguments, Console& console);

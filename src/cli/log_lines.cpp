@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "cli/log_lines.h"
+
+#include "platform/literals.h"
+
+#include <QLoggingCategory>
+#include <QString>
+
+#include <cstring>
+
+namespace {
+
+Console*& target()
+{
+    static Console* console = nullptr; // a message handler has no other way to know
+    return console;
+}
+
+void writeLogLine(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    const bool hasCategory =
+        context.category != nullptr && std::strcmp(context.category, "default") != 0;
+    const QString line =
+        hasCategory ? QString::fromUtf8(context.category) + ": "_L1 + message : message;
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        target()->error(line);
+    } else {
+        target()->note(line);
+    }
+}
+
+} // namespace
+
+void showLog(Console& console, Verbosity verbosity)
+{
+    console.setVerbosity(verbosity);
+    QLoggingCategory::setFilterRules(verbosity == Verbosity::Verbose
+                                         ? QStringLiteral("dataexport.*.info=true")
+                                         : QStringLiteral("dataexport.*.info=false"));
+    target() = &console;
+    qInstallMessageHandler(writeLogLine);
+}
+
+void hideLog()
+{
+    qInstallMessageHandler(nullptr);
+    target() = nullptr;
+}
