@@ -1,6 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "model/PRSMSItem.h"
 
+PathResolver::~PathResolver() = default;
+
+const QString& PRSMSPiece::pieceLocation() const
+{
+    if (m_piece.resolver != nullptr) {
+        m_piece.path = m_piece.resolver->resolve(m_piece.path);
+        m_piece.resolver = nullptr;
+    }
+    return m_piece.path;
+}
+
 PRSMSChat::PRSMSChat(SmsMessage message) : m_message(std::move(message))
 {
     m_pieces.reserve(static_cast<int>(m_message.pieces.size()));

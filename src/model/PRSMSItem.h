@@ -11,13 +11,27 @@
 #include <memory>
 #include <vector>
 
+/// Turns a path on the device into one on this computer. Outlives the records that hold it.
+class DATAEXPORT_EXPORT PathResolver {
+public:
+    PathResolver() = default;
+    PathResolver(const PathResolver&) = delete;
+    PathResolver& operator=(const PathResolver&) = delete;
+    virtual ~PathResolver();
+
+    /// Empty where the file is not there.
+    virtual QString resolve(const QString& devicePath) const = 0;
+};
+
 struct SmsPiece {
     QString type;          ///< "text/plain", or a type that holds "image", "video" or "audio"
     bool location = false; ///< a place on a map, sent as a small text file
     QByteArray data;       ///< UTF-8 text, or the bytes of a picture
     QString path;          ///< the file
-    QString preview;       ///< a picture of it
-    QString info;          ///< its name for people
+    /// Where given, `path` is one on the device, looked up when it is first asked for.
+    const PathResolver* resolver = nullptr;
+    QString preview; ///< a picture of it
+    QString info;    ///< its name for people
 };
 
 /// One attachment of a message, or one part of its text.
@@ -28,12 +42,13 @@ public:
     const QString& pieceType() const { return m_piece.type; }
     bool isLocation() const { return m_piece.location; }
     const QByteArray& pieceData() const { return m_piece.data; }
-    const QString& pieceLocation() const { return m_piece.path; }
+    const QString& pieceLocation() const;
     const QString& piecePreviewFile() const { return m_piece.preview; }
     const QString& pieceInfo() const { return m_piece.info; }
+    const SmsPiece& contents() const { return m_piece; }
 
 private:
-    SmsPiece m_piece;
+    mutable SmsPiece m_piece;
 };
 
 struct SmsMessage {
@@ -73,6 +88,7 @@ public:
     const QString& content() const { return m_message.content; }
     const QString& addr() const { return m_message.addr; }
     const QList<PRSMSPiece*>& pieces() const { return m_pieces; }
+    const SmsMessage& contents() const { return m_message; }
 
 private:
     SmsMessage m_message;
@@ -94,6 +110,7 @@ public:
 
     const QList<PRSMSChat*>& chats() const { return m_chats; }
     const QMap<QString, QString>& addrIds() const { return m_conversation.addrIds; }
+    const SmsConversation& contents() const { return m_conversation; }
 
 private:
     SmsConversation m_conversation;

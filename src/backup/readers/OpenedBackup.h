@@ -7,14 +7,26 @@
 #include "model/PRBackup.h"
 
 #include <memory>
+#include <vector>
 
 namespace backup {
 
-/// A source that has been opened, with all that its records stand on.
+/// What records are loaded from when they are asked for. Lives as long as they do.
+class RecordSource {
+public:
+    RecordSource() = default;
+    RecordSource(const RecordSource&) = delete;
+    RecordSource& operator=(const RecordSource&) = delete;
+    virtual ~RecordSource() = default;
+};
+
+/// A source that has been opened, with all that its records stand on; each member stands on those
+/// above it.
 struct OpenedBackup {
-    std::unique_ptr<Notices> notices;   // grows as records are loaded
-    std::unique_ptr<FileLocator> files; // the backup folder, or what lies beside a database
-    DeviceInfo device;                  // empty for a database file
+    std::unique_ptr<Notices> notices;   ///< grows as records are loaded
+    std::unique_ptr<FileLocator> files; ///< the backup folder, or what lies beside a database
+    std::vector<std::unique_ptr<RecordSource>> sources;
+    DeviceInfo device; ///< empty for a database file
     PRBackup records;
 };
 

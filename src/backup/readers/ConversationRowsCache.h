@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "backup/readers/conversations.h"
+#include "backup/readers/message_rows.h"
+#include "formats/sqlite.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace backup {
+
+class Notices;
+
+/// Which conversation each message belongs to, by message.ROWID; 4 bytes a message.
+class Membership {
+public:
+    static constexpr std::int32_t kNone = -1;
+    static constexpr std::int32_t kSeveral = -2;
+
+    Membership(const formats::Database& database, const std::vector<Conversation>& conversations,
+        Notices& notices);
+
+    /// A conversation's index, kNone or kSeveral.
+    std::int32_t of(std::int64_t messageId) const;
+    /// All conversations of a message for which `of` says kSeveral.
+    const std::vector<std::int32_t>& severalOf(std::int64_t messageId) const;
+    /// Number of messages that conversation `index` has here.
+    std::size_t countOf(std::size_t index) const { return m_counts[index]; }
+    std::size_t total() const { return m_total; }
+
+private:
+    void add(std::int64_t messageId, std::int32_t index);
+    std::int32_t& slot(std::int64_t messageId);
+
+    std::int64_t m_first = 0;
+    std::vector<std::int32_t> m_dense; // from m_first on
+    std::unordered_map<std::int64_t, std::int32_t> m_sparse;
+    std::unordered_map<std::int64_t, std::vector<std::int32_t>> m_several;
+    std::vector<std::size_t> m_counts;
+    std::size_t m_total = 0;
+};
+
+/// Gets the rows of conversations out of the store. The rows of one conversation lie scattered over
+/// the table: who walks all conversations in order is served by scans of the table that keep as
+/// many of the following ones as fit; who asks here and there, by the index of each.
+class ConversationRowsCache {
+public:
+    ConversationRowsCache(const formats::Database& database,
+        const std::vector<Conversation>& conversations, Notices& notices);
+
+    /// The rows of a conversation, in the order of date, then of arrival.
+    ConversationRows take(std::size_t index);
+
+private:
+    ConversationRows fetch(std::size_t index);
+    ConversationRows walkIndex(const Conversation& conversation);
+    ConversationRows readMessages(const std::vector<std::int64_t>& messageIds);
+    bool worthAScan(std::size_t index);
+    void scanFrom(std::size_t index);
+    void scanRows(std::int64_t& lastId, bool& failed);
+    void keep(const formats::Statement& row);
+    bool isInBatch(std::int64_t messageId) const;
+    void readAttachmentIds();
+    void noteFailure(const formats::Statement& query);
+
+    const formats::Database& m_database;
+    const std::vector<Conversation>& m_conversations;
+    Notices& m_notices;
+    MessageTable m_table;
+
+    std::optional<Membership> m_membership;    // made at the first scan
+    std::vector<std::int64_t> m_attachmentIds; // messages with attachments, ascending
+    bool m_attachmentIdsRead = false;
+    std::size_t m_batchOffset = 0; // the first conversation of m_batch
+    std::size_t m_batchBegin = 0;  // conversations that are still there
+    std::size_t m_batchEnd = 0;
+    std::vector<ConversationRows> m_batch;
+    bool m_keepsAll = false; // all fit: they stay for a second round
+    std::size_t m_next = 0;  // the one after the last asked for
+    std::size_t m_forwardSteps = 0;
+};
+
+} // namespace backup
