@@ -28,39 +28,52 @@ PROJECT = {
     "a.cpp": '#include "shared.h"\nint a() { return shared; }\n',
     "b.cpp": "int b() { return 1; }\n",
     "shared.h": "constexpr int shared = 1;\n",
+    "bin/clang-tidy": FAKE_CLANG_TIDY,
 }
 
 
 class Tidy(unittest.TestCase):
-    def setUp(self):
+    @classmethod
+    def setUpClass(cls):
         folder = tempfile.TemporaryDirectory()
-        self.addCleanup(folder.cleanup)
-        self.root = Path(folder.name, "a project")
+        cls.addClassCleanup(folder.cleanup)
+        cls.root = Path(folder.name, "a project")
+        cls.env = os.environ | {
+            "PATH": f"{cls.root / 'bin'}:{os.environ['PATH']}", "FAKE_LOG": str(cls.root / "log")}
+        (cls.root / "bin").mkdir(parents=True)
+        (cls.root / "scripts").mkdir()
+        shutil.copy(TIDY, cls.root / "scripts/tidy")
+        cls.write_project()
+        (cls.root / "bin/clang-tidy").chmod(0o755)
+        cls.run_in_root("git", "init", "-q")
+        cls.run_in_root("cmake", "-G", "Ninja", "-B", "build", "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON")
+
+    def setUp(self):
+        self.write_project()
+        (self.root / "c.cpp").unlink(missing_ok=True)
+        shutil.rmtree(self.root / "build/tidy-clean", ignore_errors=True)
+
+    @classmethod
+    def write_project(cls):
         for name, text in PROJECT.items():
-            self.write(name, text)
-        self.write("bin/clang-tidy", FAKE_CLANG_TIDY)
-        (self.root / "bin/clang-tidy").chmod(0o755)
-        (self.root / "scripts").mkdir()
-        shutil.copy(TIDY, self.root / "scripts/tidy")
-        self.env = os.environ | {
-            "PATH": f"{self.root / 'bin'}:{os.environ['PATH']}", "FAKE_LOG": str(self.root / "log")}
-        self.run_in_root("git", "init", "-q")
-        self.run_in_root("cmake", "-G", "Ninja", "-B", "build", "-DCMAKE_EXPORT_COMPILE_COMMANDS=ON")
+            path = cls.root / name
+            if not path.exists() or path.read_text() != text: # else ninja configures again
+                cls.write(name, text)
 
-    def write(self, name, text):
-        path = self.root / name
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_text(text)
+    @classmethod
+    def write(cls, name, text):
+        (cls.root / name).write_text(text)
 
-    def run_in_root(self, *command, check=True):
+    @classmethod
+    def run_in_root(cls, *command, check=True, **env):
         return subprocess.run(
-            command, cwd=self.root, env=self.env, check=check, capture_output=True, text=True)
+            command, cwd=cls.root, env=cls.env | env, check=check, capture_output=True, text=True)
 
-    def tidy(self):
+    def tidy(self, **env):
         """Exit status, and the files that clang-tidy was run on."""
         self.run_in_root("ninja", "-C", "build")
         (self.root / "log").write_text("")
-        status = self.run_in_root("scripts/tidy", "build", check=False).returncode
+        status = self.run_in_root("scripts/tidy", "build", check=False, **env).returncode
         return status, sorted((self.root / "log").read_text().split())
 
     def test_checks_all_files_once_and_then_none(self):
@@ -84,8 +97,7 @@ class Tidy(unittest.TestCase):
 
     def test_checks_all_files_again_with_another_clang_tidy(self):
         self.tidy()
-        self.env["FAKE_VERSION"] = "2"
-        self.assertEqual(self.tidy(), (0, ["a.cpp", "b.cpp"]))
+        self.assertEqual(self.tidy(FAKE_VERSION="2"), (0, ["a.cpp", "b.cpp"]))
 
     def test_fails_for_a_file_that_no_target_compiles(self):
         self.tidy()
