@@ -2,8 +2,8 @@
 -- Schema of the message store of a phone with iOS 17: HomeDomain, Library/SMS/sms.db.
 --
 -- Columns stand in the order in which they lie in a row: releases have only ever added columns at
--- the end, and a search for deleted rows depends on the order. Of the triggers, those are left out
--- that call functions of the phone.
+-- the end, and a search for deleted rows depends on the order. Triggers are left out: some call
+-- functions of the phone, and rows are to go in as they are given.
 --
 -- Units: all dates of `message`, `chat_message_join` and the tables of deleted messages are
 -- nanoseconds since 2001-01-01 UTC; those of `attachment` are seconds since then; 0 means not set.
@@ -105,7 +105,7 @@ CREATE TABLE message (
     message_action_type INTEGER DEFAULT 0,
     message_source INTEGER DEFAULT 0,
     associated_message_guid TEXT,                   -- "p:<part>/<guid>", "bp:<guid>", or a guid
-    associated_message_type INTEGER DEFAULT 0,      -- 1000 sticker, 2000 on tapbacks, 3000 on undone
+    associated_message_type INTEGER DEFAULT 0,      -- 1000 sticker, 2000+ tapback, 3000+ undone
     balloon_bundle_id TEXT,                         -- which app draws the bubble
     payload_data BLOB,                              -- keyed archive for that app
     expressive_send_style_id TEXT,                  -- effect of bubble or screen
@@ -147,7 +147,7 @@ CREATE TABLE attachment (
     guid TEXT UNIQUE NOT NULL,                      -- "at_<part>_<message guid>", or a guid
     created_date INTEGER DEFAULT 0,                 -- seconds since 2001
     start_date INTEGER DEFAULT 0,                   -- seconds since 2001
-    filename TEXT,                                  -- "~/Library/SMS/Attachments/...", NULL: not here
+    filename TEXT,                                  -- "~/Library/SMS/Attachments/..."; NULL: none
     uti TEXT,
     mime_type TEXT,
     transfer_state INTEGER DEFAULT 0,               -- 0 waiting, 5 done, 6 failed

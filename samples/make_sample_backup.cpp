@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+// Makes the sample backup: make_sample_backup <folder of the sources> <folder of the backup>
+//
+//   phone.json          what the phone is, and what every phone has
+//   people.json         the address book
+//   conversations.json  the messages
+//   media/              files that messages carry, beside those that this program draws
+//   schema/             the definitions of the databases
+//
+// The same sources give the same bytes.
+#include "maker/AddressBook.h"
+#include "maker/BackupWriter.h"
+#include "maker/Conversations.h"
+#include "maker/Database.h"
+#include "maker/MessageStore.h"
+#include "maker/common.h"
+#include "maker/plist_writer.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QHashFunctions>
+#include <QJsonArray>
+#include <QTemporaryDir>
+
+namespace {
+
+using sample::BackupWriter;
+using sample::Database;
+
+struct Paths {
+    QString sources;
+    QString scratch; // where the databases are made
+    QString backup;
+
+    QString schema(const QString& name) const { return sources + "/schema/" + name + ".sql"; }
+    QString media() const { return sources + "/media"; }
+};
+
+void writeMessages(const Paths& paths, BackupWriter& backup)
+{
+    const QString path = "Library/SMS/sms.db";
+    Database database(
+        paths.scratch + "/sms.db", paths.schema("sms"), Database::Journal::WriteAheadLog);
+    const sample::Conversations conversations(
+        sample::readJson(paths.sources + "/conversations.json"));
+    sample::MessageStore(conversations, database, backup, paths.media()).write();
+    backup.addFile("HomeDomain", path, database.mainFile());
+    backup.addFile("HomeDomain", path + "-wal", database.logFile());
+}
+
+// Their headers promise a log, but all of it was taken in before the backup.
+void writePeople(const Paths& paths, BackupWriter& backup)
+{
+    const QString folder = "Library/AddressBook/";
+    Database book(paths.scratch + "/AddressBook.sqlitedb", paths.schema("AddressBook"),
+        Database::Journal::WriteAheadLog);
+    Database pictures(paths.scratch + "/AddressBookImages.sqlitedb",
+        paths.schema("AddressBookImages"), Database::Journal::WriteAheadLog);
+    sample::AddressBook(book, pictures, paths.media())
+        .write(sample::readJson(paths.sources + "/people.json"));
+    book.checkpoint();
+    pictures.checkpoint();
+    backup.addFile("HomeDomain", folder + "AddressBook.sqlitedb", book.mainFile());
+    backup.addFile("HomeDomain", folder + "AddressBookImages.sqlitedb", pictures.mainFile());
+}
+
+void writeOtherEntries(const QJsonObject& phone, BackupWriter& backup)
+{
+    for (const QJsonValue& entry : phone["directories"].toArray()) {
+        backup.addDirectory(entry["domain"].toString(), entry["path"].toString());
+    }
+    for (const QJsonValue& entry : phone["links"].toArray()) {
+        backup.addLink(
+            entry["domain"].toString(), entry["path"].toString(), entry["target"].toString());
+    }
+    for (const QJsonValue& entry : phone["propertyLists"].toArray()) {
+        backup.addFile(entry["domain"].toString(), entry["path"].toString(),
+            sample::binaryPlist(entry["content"].toObject().toVariantMap()));
+    }
+}
+
+// What phone.json says of one of the property lists, with the date of the backup.
+QVariantMap propertyList(
+    const QJsonObject& phone, const QString& name, const QString& dateKey, qint64 seconds)
+{
+    QVariantMap values = phone[name].toObject().toVariantMap();
+    values[dateKey] = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    return values;
+}
+
+// Only a folder that is a backup, or none yet, is replaced.
+void emptyFolder(const QString& path)
+{
+    QDir folder(path);
+    if (folder.exists() && !folder.isEmpty() && !folder.exists("Info.plist")) {
+        sample::fail(path + " holds something else than a backup");
+    }
+    folder.removeRecursively();
+    QDir().mkpath(path);
+}
+
+void makeBackup(const Paths& paths)
+{
+    emptyFolder(paths.backup);
+    const QJsonObject phone = sample::readJson(paths.sources + "/phone.json");
+    const qint64 seconds =
+        sample::secondsSince2001(phone["backedUp"].toString()) + sample::kUnixAt2001;
+    const QVariantMap info = propertyList(phone, "Info", "Last Backup Date", seconds);
+    sample::writeFile(paths.backup + "/Info.plist", sample::xmlPlist(info));
+    const QVariantMap manifest = propertyList(phone, "Manifest", "Date", seconds);
+    sample::writeFile(paths.backup + "/Manifest.plist", sample::binaryPlist(manifest));
+
+    BackupWriter backup(paths.backup, seconds);
+    writeMessages(paths, backup);
+    writePeople(paths, backup);
+    writeOtherEntries(phone, backup);
+    backup.writeIndex(paths.schema("Manifest"));
+
+    // Last: without it a backup counts as broken off.
+    const QVariantMap status = propertyList(phone, "Status", "Date", seconds);
+    sample::writeFile(paths.backup + "/Status.plist", sample::binaryPlist(status));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qSetGlobalQHashSeed(0); // the same order in every run
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 3) {
+        sample::fail("usage: make_sample_backup <folder of the sources> <folder of the backup>");
+    }
+    const QTemporaryDir scratch;
+    makeBackup({.sources = arguments[1], .scratch = scratch.path(), .backup = arguments[2]});
+    return 0;
+}

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "AddressBook.h"
+
+#include "common.h"
+#include "media.h"
+
+#include <QJsonArray>
+#include <QJsonValue>
+
+#include <algorithm>
+#include <array>
+
+namespace sample {
+
+namespace {
+
+enum Property { Phone = 3, Mail = 4, Address = 5, Date = 12, Messenger = 13, Page = 22,
+    Related = 23, Profile = 46 };
+
+struct Values {
+    const char* key; // in people.json
+    int property;
+};
+// clang-format off
+constexpr std::array kValues{
+    Values{"phones",     Phone},
+    Values{"mails",      Mail},
+    Values{"addresses",  Address},
+    Values{"dates",      Date},
+    Values{"messengers", Messenger},
+    Values{"pages",      Page},
+    Values{"related",    Related},
+    Values{"profiles",   Profile},
+};
+// clang-format on
+
+// Days stand as noon of the day, in a decimal text.
+QString dayText(const QString& day)
+{
+    return QString::number(secondsSince2001(day + " 12:00:00")) + ".0";
+}
+
+QString letterOf(const QJsonObject& person, const char* first, const char* second)
+{
+    const QString name = person[QLatin1String(first)].toString();
+    const QString other = person[QLatin1String(second)].toString();
+    return (name.isEmpty() ? other : name).left(1).toUpper();
+}
+
+QString digitsOf(const QString& phone)
+{
+    QString digits;
+    std::copy_if(phone.begin(), phone.end(), std::back_inserter(digits),
+        [](QChar unit) { return unit.isDigit(); });
+    return digits;
+}
+
+} // namespace
+
+AddressBook::AddressBook(Database& book, Database& pictures, QString mediaFolder)
+    : m_book(book), m_pictures(pictures), m_mediaFolder(std::move(mediaFolder))
+{
+}
+
+void AddressBook::write(const QJsonObject& source)
+{
+    m_book.run("BEGIN");
+    m_book.insert("_SqliteDatabaseProperties",
+        {{"key", "_UniqueIdentifier"}, {"value", uuidFor("address book")}});
+    m_book.insert("ABAccount", {{"AccountIdentifier", uuidFor("account of contacts")},
+                                   {"guid", uuidFor("ABAccount") + ":ABAccount"}});
+    m_book.insert("ABStore", {{"ROWID", 0}, {"StoreInternalIdentifier", "local"},
+                                 {"MeIdentifier", 1}, {"guid", uuidFor("store 0")}});
+    m_book.insert("ABStore", {{"ROWID", 1}, {"Name", "Card"}, {"Type", 1}, {"AccountID", 1},
+                                 {"guid", uuidFor("store 1")}});
+    qint64 row = 0;
+    for (const QJsonValue& person : source["people"].toArray()) {
+        writePerson(person.toObject(), ++row);
+    }
+    writeLinks(source["people"]);
+    for (const QJsonValue& group : source["groups"].toArray()) {
+        writeGroup(group.toObject());
+    }
+    m_book.run("COMMIT");
+}
+
+// A key that begins with a capital letter is a column.
+void AddressBook::writePerson(const QJsonObject& source, qint64 row)
+{
+    const qint64 made = secondsSince2001("2018-12-24 18:00:00") + row * 86400;
+    Database::Row cells{{"ROWID", row}, {"guid", uuidFor(QString("person %1").arg(row)) + ":ABPerson"},
+        {"CreationDate", made}, {"ModificationDate", made},
+        {"FirstSortSection", letterOf(source, "First", "Organization")},
+        {"LastSortSection", letterOf(source, "Last", "Organization")}};
+    const QStringList keys = source.keys();
+    std::vector<QByteArray> names; // outlive the row
+    names.reserve(static_cast<std::size_t>(keys.size()));
+    for (const QString& key : keys) {
+        if (key.front().isUpper()) {
+            names.push_back(key.toUtf8());
+            cells.emplace_back(names.back().constData(),
+                key == "Birthday" ? dayText(source[key].toString()) : source[key].toVariant());
+        }
+    }
+    for (const char* column : {"StoreID", "Kind"}) {
+        if (!source.contains(QLatin1String(column))) {
+            cells.emplace_back(column, 0);
+        }
+    }
+    m_book.insert("ABPerson", cells);
+    for (const Values& values : kValues) {
+        writeValues(row, values.key, values.property, source[QLatin1String(values.key)]);
+    }
+    if (source.contains("picture")) {
+        const QByteArray bytes = media(source["picture"].toString(), m_mediaFolder);
+        m_pictures.insert("ABFullSizeImage", {{"record_id", row}, {"crop_x", 0}, {"crop_y", 0},
+                                                 {"crop_width", 200}, {"data", bytes}});
+        m_pictures.insert("ABThumbnailImage", {{"record_id", row}, {"format", 0},
+                                                  {"derived_from_format", 2}, {"data", bytes}});
+    }
+}
+
+// Each value is a pair of label and value; the value is a text or an object of entries.
+void AddressBook::writeValues(
+    qint64 person, const char* kind, int property, const QJsonValue& values)
+{
+    int identifier = 0;
+    for (const QJsonValue& entry : values.toArray()) {
+        const QJsonValue value = entry.toArray()[1];
+        const QString text = property == Date ? dayText(value.toString()) : value.toString();
+        const QString name = QString("%1 %2 %3").arg(person).arg(kind).arg(++identifier);
+        const qint64 row = m_book.insert("ABMultiValue",
+            {{"UID", ++m_values}, {"record_id", person}, {"property", property},
+                {"identifier", identifier}, {"label", label(entry.toArray()[0].toString())},
+                {"value", value.isObject() ? QString() : text}, {"guid", uuidFor(name)}});
+        writeEntries(row, value.toObject());
+        if (property == Phone) {
+            m_book.insert("ABPhoneLastFour",
+                {{"multivalue_id", row}, {"value", digitsOf(text).right(4)}});
+        }
+    }
+}
+
+void AddressBook::writeEntries(qint64 value, const QJsonObject& entries)
+{
+    for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+        m_book.insert("ABMultiValueEntry", {{"parent_id", value}, {"key", entryKey(entry.key())},
+                                               {"value", entry.value().toString()}});
+    }
+}
+
+// Cards with the same number are shown as one; one of them gives the name.
+void AddressBook::writeLinks(const QJsonValue& people)
+{
+    qint64 row = 0;
+    for (const QJsonValue& person : people.toArray()) {
+        const QJsonObject card = person.toObject();
+        ++row;
+        if (card.contains("PersonLink") && card["IsPreferredName"].toInt() == 1) {
+            m_book.insert("ABPersonLink",
+                {{"ROWID", card["PersonLink"].toInt()}, {"PreferredNamePersonID", row},
+                    {"guid", uuidFor(QString("link %1").arg(card["PersonLink"].toInt()))}});
+        }
+    }
+}
+
+void AddressBook::writeGroup(const QJsonObject& source)
+{
+    const QString name = source["Name"].toString();
+    const qint64 group = m_book.insert(
+        "ABGroup", {{"Name", name}, {"StoreID", 0}, {"guid", uuidFor("people " + name)}});
+    for (const QJsonValue& member : source["members"].toArray()) {
+        m_book.insert("ABGroupMembers",
+            {{"group_id", group}, {"member_type", 0}, {"member_id", member.toInt()}});
+    }
+}
+
+qint64 AddressBook::label(const QString& text)
+{
+    qint64& row = m_labels[text];
+    if (row == 0) {
+        row = m_book.insert("ABMultiValueLabel", {{"value", text}});
+    }
+    return row;
+}
+
+qint64 AddressBook::entryKey(const QString& text)
+{
+    qint64& row = m_entryKeys[text];
+    if (row == 0) {
+        row = m_book.insert("ABMultiValueEntryKey", {{"value", text}});
+    }
+    return row;
+}
+
+} // namespace sample

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "media.h"
+
+#include "common.h"
+#include "pictures.h"
+#include "recordings.h"
+
+#include <algorithm>
+#include <array>
+
+namespace sample {
+
+namespace {
+
+struct Made {
+    const char* name;
+    QByteArray (*make)();
+};
+// clang-format off
+constexpr std::array kMade{
+    Made{"beach.jpg",  [] { return jpeg(beach()); }},
+    Made{"cake.png",   [] { return png(cake()); }},
+    Made{"cat.heic",   [] { return heic(cat()); }},
+    Made{"star.png",   [] { return png(star()); }},
+    Made{"lena.jpg",   [] { return jpeg(portrait("#5d4037", "#43a047")); }},
+    Made{"ben.jpg",    [] { return jpeg(portrait("#212121", "#1e88e5")); }},
+    Made{"boat.mov",   film},
+    Made{"melody.caf", melody},
+    Made{"ticket.pdf", ticket},
+};
+// clang-format on
+
+} // namespace
+
+QByteArray media(const QString& name, const QString& directory)
+{
+    const auto* const made = std::ranges::find_if(kMade, [&](const Made& file) { return name == file.name; });
+    return made != kMade.end() ? made->make() : readFile(directory + "/" + name);
+}
+
+} // namespace sample

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+
+namespace sample {
+
+// Drawn, not photographed: so that nobody owns them but us. No text is drawn, since the letters
+// would depend on the fonts of the machine.
+
+QImage beach(); ///< umbrella, sea and sun, 800 x 600
+QImage cake();  ///< with four candles, 800 x 600
+QImage cat();   ///< 600 x 800, upright
+QImage star();  ///< a sticker, transparent around, 240 x 240
+/// A boat at sea, `step` from 0 to 1 of its way, 320 x 240.
+QImage boat(double step);
+/// Head and shoulders for an address book, 200 x 200.
+QImage portrait(const QColor& hair, const QColor& shirt);
+
+QByteArray jpeg(const QImage& image);
+QByteArray png(const QImage& image);
+/// Empty where the machine has no encoder for it.
+QByteArray heic(const QImage& image);
+
+} // namespace sample
