@@ -62,7 +62,7 @@ QString entry(const QString& key, const QString& text)
 
 } // namespace
 
-BackupBuilder::BackupBuilder(const QString& directory) : m_directory(directory)
+BackupBuilder::BackupBuilder(QString directory) : m_directory(std::move(directory))
 {
 }
 
@@ -189,14 +189,24 @@ DatabaseBytes databaseBytes(const QStringList& statements, const QStringList& lo
 {
     const QTemporaryDir directory;
     const QString path = directory.filePath("database");
-    const Handle database = createDatabase(path);
-    run(database, {"BEGIN"});
-    run(database, statements);
-    run(database, {"COMMIT"});
-    if (!logged.isEmpty()) {
-        run(database, {"PRAGMA journal_mode = WAL", "PRAGMA wal_autocheckpoint = 0"});
-        run(database, logged);
+    {
+        const Handle database = createDatabase(path);
+        run(database, {"BEGIN"});
+        run(database, statements);
+        run(database, {"COMMIT"});
     }
+    const QByteArray file = bytesOf(path);
+    return logged.isEmpty() ? DatabaseBytes{.file = file, .log = {}} : withLog(file, logged);
+}
+
+DatabaseBytes withLog(const QByteArray& file, const QStringList& logged)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("database");
+    writeFile(path, file);
+    const Handle database = createDatabase(path);
+    run(database, {"PRAGMA journal_mode = WAL", "PRAGMA wal_autocheckpoint = 0"});
+    run(database, logged);
     // Read while the database is open: closing it would take the log in.
     return {.file = bytesOf(path), .log = bytesOf(path + "-wal")};
 }

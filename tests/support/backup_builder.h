@@ -80,6 +80,9 @@ struct DatabaseBytes {
 /// Runs the statements on a new database. The second ones end up in the write-ahead log.
 DatabaseBytes databaseBytes(const QStringList& statements, const QStringList& logged = {});
 
+/// The database after the statements have reached a write-ahead log.
+DatabaseBytes withLog(const QByteArray& file, const QStringList& logged);
+
 /// Writes a file, and the folders that it needs.
 void writeFile(const QString& path, const QByteArray& bytes);
 
