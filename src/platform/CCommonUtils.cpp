@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 
 #include <cmath>
 
@@ -14,9 +15,12 @@ namespace {
 constexpr qint64 kDayMs = 86'400'000;
 constexpr qint64 kMinuteMs = 60'000;
 constexpr qint64 kStartOf2001Ms = 978'307'200'000;
+constexpr double kFarthestMs = 9e18; // within 64 bits, also when counted from 1970
 // Years of four digits; others are left to Qt.
 constexpr qint64 kFirstMs = -62'135'596'800'000; // 0001-01-01
 constexpr qint64 kLastMs = 253'402'300'799'999;  // 9999-12-31
+
+constexpr int kAlwaysProbed = 8; // numbers of a file name
 
 struct Day {
     int year;
@@ -51,23 +55,35 @@ void putDigits(QChar* end, int digits, int number)
     }
 }
 
+// What a clock shows at the date, in milliseconds since 1970 as if it showed UTC.
+qint64 clockAt(const QDateTime& date, bool local)
+{
+    static thread_local LocalTime localTime;
+    if (local && date.timeSpec() == Qt::LocalTime) {
+        return clockAsUtc(date);
+    }
+    const qint64 utcMs = date.toMSecsSinceEpoch();
+    if (!local) {
+        return utcMs;
+    }
+    const bool farOff = utcMs < kFirstMs || utcMs > kLastMs;
+    return farOff ? clockAsUtc(date.toLocalTime()) : utcMs + localTime.offset(utcMs);
+}
+
 // "yyyy-MM-dd" or, of 16 characters, "yyyy-MM-dd hh:mm"
 QString dateText(const QDateTime& date, bool local, bool withTime)
 {
     if (!date.isValid()) {
         return {};
     }
-    static thread_local LocalTime localTime;
-    const qint64 utcMs = date.toMSecsSinceEpoch();
-    const qint64 clockMs = local ? utcMs + localTime.offset(utcMs) : utcMs;
+    QString text = withTime ? QStringLiteral("yyyy-MM-dd hh:mm") : QStringLiteral("yyyy-MM-dd");
+    const qint64 clockMs = clockAt(date, local);
     if (clockMs < kFirstMs || clockMs > kLastMs) {
-        return (local ? date.toLocalTime() : date.toUTC())
-            .toString(withTime ? QStringLiteral("yyyy-MM-dd hh:mm") : QStringLiteral("yyyy-MM-dd"));
+        return QDateTime::fromMSecsSinceEpoch(clockMs, Qt::UTC).toString(text);
     }
     const qint64 rest = clockMs % kDayMs;
     const qint64 msOfDay = rest < 0 ? rest + kDayMs : rest;
     const Day day = calendarDay((clockMs - msOfDay) / kDayMs);
-    QString text = withTime ? QStringLiteral("yyyy-MM-dd hh:mm") : QStringLiteral("yyyy-MM-dd");
     QChar* out = text.data();
     putDigits(out + 4, 4, day.year);
     putDigits(out + 7, 2, day.month);
@@ -86,20 +102,50 @@ bool isTaken(const QString& path)
     return info.exists() || info.isSymLink();
 }
 
-// Whether `name` stays below the directory it is taken in.
-bool leadsOut(const QString& name)
+QString numberedPath(const QDir& dir, const QString& base, const QString& ext, int number)
 {
-    const QString clean = QDir::cleanPath(name);
-    return clean.isEmpty() || clean == "."_L1 || clean == ".."_L1 || clean.startsWith("../"_L1)
-           || QDir::isAbsolutePath(clean);
+    // Parts are put together, not filled in: a "%1" in a name stays.
+    QString name = base;
+    if (number > 1) {
+        name += " ("_L1 + QString::number(number) + ")"_L1;
+    }
+    return dir.absoluteFilePath(name + ext);
+}
+
+// The first free path from `number` on, which becomes the number used.
+QString freePath(const QDir& dir, const QString& base, const QString& ext, int& number)
+{
+    QString path = numberedPath(dir, base, ext, number);
+    while (isTaken(path)) {
+        ++number;
+        path = numberedPath(dir, base, ext, number);
+    }
+    return path;
+}
+
+// Whether `clean` stays below the directory it is taken in, by what it says and by what lies on
+// the disk: no link stands on the way to it.
+bool staysBelow(const QDir& dir, const QString& clean)
+{
+    if (clean.isEmpty() || clean == "."_L1 || clean == ".."_L1 || clean.startsWith("../"_L1)
+        || QDir::isAbsolutePath(clean)) {
+        return false;
+    }
+    const QDir real(dir.canonicalPath());
+    return QFileInfo(dir.absoluteFilePath(clean)).canonicalFilePath()
+           == real.absoluteFilePath(clean);
 }
 
 } // namespace
 
 QDateTime CCommonUtils::buildDateTimeBase2001(double seconds)
 {
+    const double ms = seconds * 1000.0;
+    if (!(std::abs(ms) < kFarthestMs)) { // so that "nan" fails too
+        return {};
+    }
     return QDateTime::fromMSecsSinceEpoch(
-        kStartOf2001Ms + static_cast<qint64>(std::llround(seconds * 1000.0)), Qt::UTC);
+        kStartOf2001Ms + static_cast<qint64>(std::llround(ms)), Qt::UTC);
 }
 
 QString CCommonUtils::dateToString(const QDateTime& date, bool local)
@@ -115,41 +161,63 @@ QString CCommonUtils::datetimeToMinute(const QDateTime& date, bool local)
 QString CCommonUtils::uniqFileName(
     const QDir& dir, const QString& base, const QString& ext, int& counter)
 {
-    for (;;) {
-        ++counter;
-        // Parts are put together, not filled in: a "%1" in a name stays.
-        QString name = base;
-        if (counter > 1) {
-            name += " ("_L1 + QString::number(counter) + ")"_L1;
-        }
-        QString path = dir.absoluteFilePath(name + ext);
+    ++counter;
+    return freePath(dir, base, ext, counter);
+}
+
+// Thousands of files of one name would cost millions of probes, so a number above the first few is
+// remembered. It is taken up where it was handed out, since that file may not have been made, and
+// only while the files before it are still there.
+QString CCommonUtils::uniqFileName(const QDir& dir, const QString& base, const QString& suffix)
+{
+    static thread_local QHash<QString, int> handedOut; // by the path without a number
+    for (int number = 1; number <= kAlwaysProbed; ++number) {
+        QString path = numberedPath(dir, base, suffix, number);
         if (!isTaken(path)) {
             return path;
         }
     }
-}
-
-QString CCommonUtils::uniqFileName(const QDir& dir, const QString& base, const QString& suffix)
-{
-    int counter = 0;
-    return uniqFileName(dir, base, suffix, counter);
+    int& number = handedOut[numberedPath(dir, base, suffix, 1)];
+    if (number == 0 || !isTaken(numberedPath(dir, base, suffix, number - 1))) {
+        number = kAlwaysProbed + 1;
+    }
+    return freePath(dir, base, suffix, number);
 }
 
 bool CCommonUtils::copyFile(const QString& src, const QDir& dir, const QString& name)
 {
-    const QString target = dir.absoluteFilePath(name);
     const QFileInfo source(src);
-    if (!source.isFile() || source.canonicalFilePath() == QFileInfo(target).canonicalFilePath()) {
-        return source.isFile();
+    if (!source.isFile()) {
+        return false;
     }
-    QFile::remove(target);
-    return QFile::copy(source.canonicalFilePath(), target);
+    const QFileInfo target(dir.absoluteFilePath(name));
+    const QString sourcePath = source.canonicalFilePath();
+    if (!target.isSymLink() && target.canonicalFilePath() == sourcePath) {
+        return true; // the file itself; a link to it is replaced like any other target
+    }
+    QFile::remove(target.filePath());
+    return QFile::copy(sourcePath, target.filePath());
 }
 
 void CCommonUtils::rmDir(const QDir& dir, const QString& name, bool* removed)
 {
-    const bool gone = !leadsOut(name) && QDir(dir.absoluteFilePath(name)).removeRecursively();
+    const QString clean = QDir::cleanPath(name);
+    const QString path = dir.absoluteFilePath(clean);
+    if (staysBelow(dir, clean)) {
+        QDir(path).removeRecursively(); // what became of it is asked below
+    }
     if (removed != nullptr) {
-        *removed = gone;
+        *removed = !isTaken(path);
+    }
+}
+
+void CCommonUtils::onModifyDateTime(const QString& path, const QString& dateTime)
+{
+    const QDateTime date = QDateTime::fromString(dateTime, Qt::ISODate);
+    QFile file(path);
+    // Open for reading is enough for the owner, also of a write-protected copy, and makes no file.
+    if (date.isValid() && file.open(QIODevice::ReadOnly)) {
+        file.setFileTime(
+            date, QFileDevice::FileModificationTime); // a file without it is no failure
     }
 }

@@ -8,7 +8,8 @@
 /// Dates, file names and files, as all exporters write them.
 class CCommonUtils {
 public:
-    /// Start of 2001 in UTC plus `seconds`, to the millisecond.
+    /// Start of 2001 in UTC plus `seconds`, to the millisecond. Invalid for what is no number or
+    /// lies more than 285 million years off.
     static QDateTime buildDateTimeBase2001(double seconds);
 
     /// "yyyy-MM-dd"; `local` false leaves the date in UTC. Empty for an invalid date.
@@ -23,14 +24,20 @@ public:
     static QString uniqFileName(
         const QDir& dir, const QString& base, const QString& ext, int& counter);
 
-    /// The same from the lowest number on.
+    /// The same from the lowest number on. After many files of one name it goes on behind the last
+    /// one, so that a file taken away among them may leave its number unused.
     static QString uniqFileName(const QDir& dir, const QString& base, const QString& suffix);
 
-    /// Copies the contents of `src` (never a link itself) to `name` in `dir`, replacing what is
-    /// there. False leaves no partial file.
+    /// Copies the contents of `src` (never a link itself) to `name` in `dir`, replacing the file or
+    /// link there. False leaves no partial file; without a source what is there stays.
     static bool copyFile(const QString& src, const QDir& dir, const QString& name);
 
     /// Removes the sub-directory `name` of `dir` with all that is in it. Removes nothing when
-    /// `name` is empty, ".", or leads out of `dir`. `removed`, if given, tells whether it is gone.
+    /// `name` is empty, ".", or leads out of `dir`, be it by a link. `removed`, if given, tells
+    /// whether nothing stands there now.
     static void rmDir(const QDir& dir, const QString& name, bool* removed);
+
+    /// Sets the modification time of the file at `path`. `dateTime` is ISO 8601, with a T or a
+    /// blank before the time, local where it names no zone; any other text changes nothing.
+    static void onModifyDateTime(const QString& path, const QString& dateTime);
 };

@@ -8,10 +8,11 @@ namespace {
 constexpr qint64 kDay = 86'400'000;
 constexpr qint64 kWeek = 7 * kDay;
 
+// By the clock that Qt shows, not by its `offsetFromUtc`: that is computed back from the clock, and
+// takes the wrong one of two hours where a zone has set its standard time back.
 qint64 askQt(qint64 utcMs)
 {
-    const QDateTime local = QDateTime::fromMSecsSinceEpoch(utcMs, Qt::LocalTime);
-    return qint64(1000) * local.offsetFromUtc();
+    return clockAsUtc(QDateTime::fromMSecsSinceEpoch(utcMs, Qt::LocalTime)) - utcMs;
 }
 
 qint64 startOfWeek(qint64 utcMs)
@@ -36,6 +37,11 @@ qint64 changeBetween(qint64 low, qint64 high)
 }
 
 } // namespace
+
+qint64 clockAsUtc(const QDateTime& date)
+{
+    return QDateTime(date.date(), date.time(), Qt::UTC).toMSecsSinceEpoch();
+}
 
 qint64 LocalTime::offset(qint64 utcMs)
 {

@@ -5,6 +5,11 @@
 
 #include <map>
 
+class QDateTime;
+
+/// What the date's own clock shows, in milliseconds since 1970 as if it showed UTC.
+qint64 clockAsUtc(const QDateTime& date);
+
 /// Offsets of the local time zone, as `QDateTime` has them, asked once for each stretch of time in
 /// which they do not change: Qt's own answer costs a hundred times as much as the rest of a date.
 class LocalTime {

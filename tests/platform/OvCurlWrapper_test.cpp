@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+#include "platform/OvCurlWrapper.h"
+#include "support/http_server.h"
+#include "support/temp_tree.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using support::ClosedPort;
+using support::HttpServer;
+using support::TempTree;
+
+namespace {
+
+/// A variable of the environment, for as long as it lives.
+class Variable {
+public:
+    Variable(const char* name, const QByteArray& value) : m_name(name), m_before(qgetenv(name))
+    {
+        qputenv(name, value);
+    }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+    ~Variable()
+    {
+        if (m_before.isNull()) {
+            qunsetenv(m_name);
+        } else {
+            qputenv(m_name, m_before);
+        }
+    }
+
+private:
+    const char* m_name;
+    QByteArray m_before;
+};
+
+// A row of redirects "/1" -> "/2" -> ... and the goal behind them.
+void answerWithRedirects(HttpServer& server, int count)
+{
+    for (int hop = 1; hop <= count; ++hop) {
+        server.answer(
+            "/" + std::to_string(hop), HttpServer::redirect("/" + std::to_string(hop + 1)));
+    }
+    server.answer("/" + std::to_string(count + 1), HttpServer::reply(200, "goal"));
+}
+
+} // namespace
+
+TEST(OvCurlWrapper, HasCodeZeroBeforeTheFirstTransfer)
+{
+    EXPECT_EQ(OvCurlWrapper().httpCode(), 0);
+}
+
+TEST(OvCurlWrapper, WritesTheBodyAndTellsTheStatus)
+{
+    HttpServer server;
+    const std::string body("\0\r\n\xff body", 9);
+    server.answer("/a", HttpServer::reply(200, body));
+    const TempTree tree;
+    OvCurlWrapper curl;
+    EXPECT_TRUE(curl.download(server.address("/a"), tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 200);
+    EXPECT_EQ(tree.read("file").toStdString(), body);
+}
+
+TEST(OvCurlWrapper, WritesALongBodyWithoutAnAnnouncedLength)
+{
+    HttpServer server;
+    const std::string body(3'000'000, 'b');
+    server.answer("/a", "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n" + body);
+    const TempTree tree;
+    OvCurlWrapper curl;
+    EXPECT_TRUE(curl.download(server.address("/a"), tree.path("file"), true));
+    EXPECT_EQ(tree.read("file").toStdString(), body);
+}
+
+TEST(OvCurlWrapper, LeavesNoFileForAStatusOf400OrAbove)
+{
+    HttpServer server;
+    const TempTree tree;
+    for (const int status : {400, 401, 403, 404, 410, 500, 503}) {
+        SCOPED_TRACE(status);
+        server.answer("/a", HttpServer::reply(status, "an error page"));
+        OvCurlWrapper curl;
+        EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), true));
+        EXPECT_EQ(curl.httpCode(), status);
+        EXPECT_TRUE(tree.list().isEmpty());
+    }
+}
+
+TEST(OvCurlWrapper, TellsTheResultOfTheLastTransferOnly)
+{
+    HttpServer server;
+    server.answer("/a", HttpServer::reply(200, "body"));
+    const TempTree tree;
+    OvCurlWrapper curl;
+    EXPECT_FALSE(curl.download(server.address("/absent"), tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 404);
+    EXPECT_TRUE(curl.download(server.address("/a"), tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 200);
+    EXPECT_EQ(OvCurlWrapper(curl).httpCode(), 200);
+}
+
+TEST(OvCurlWrapper, FollowsTenRedirectsAndNoMore)
+{
+    const TempTree tree;
+    OvCurlWrapper curl;
+    HttpServer ten;
+    answerWithRedirects(ten, 10);
+    EXPECT_TRUE(curl.download(ten.address("/1"), tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 200);
+    EXPECT_EQ(tree.read("file"), "goal");
+
+    HttpServer eleven;
+    answerWithRedirects(eleven, 11);
+    EXPECT_FALSE(curl.download(eleven.address("/1"), tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 302);
+    EXPECT_TRUE(tree.list().isEmpty());
+}
+
+TEST(OvCurlWrapper, FollowsNoRedirectToAnotherProtocol)
+{
+    HttpServer server;
+    const TempTree secrets;
+    const std::string file = "file://" + secrets.write("secret", "secret").toStdString();
+    for (const std::string& goal :
+        {file, std::string("ftp://127.0.0.1/a"), std::string("dict://127.0.0.1/a")}) {
+        SCOPED_TRACE(goal);
+        server.answer("/a", HttpServer::redirect(goal));
+        const TempTree tree;
+        OvCurlWrapper curl;
+        EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), true));
+        EXPECT_EQ(curl.httpCode(), 302);
+        EXPECT_TRUE(tree.list().isEmpty());
+    }
+}
+
+TEST(OvCurlWrapper, TakesHttpAndHttpsAddressesOnly)
+{
+    const TempTree tree;
+    const QString file = "file://" + tree.write("secret", "secret");
+    for (const QString& address : {file, QString("ftp://127.0.0.1/a"), QString("httpx://h/a")}) {
+        SCOPED_TRACE(address.toStdString());
+        OvCurlWrapper curl;
+        EXPECT_FALSE(curl.download(address, tree.path("file"), true));
+        EXPECT_EQ(curl.httpCode(), 1); // unsupported protocol
+        EXPECT_FALSE(tree.exists("file"));
+    }
+}
+
+TEST(OvCurlWrapper, TellsSevenWhereNothingListens)
+{
+    const ClosedPort port;
+    const TempTree tree;
+    for (const char* scheme : {"http", "https"}) {
+        SCOPED_TRACE(scheme);
+        OvCurlWrapper curl;
+        EXPECT_FALSE(curl.download(port.address().replace("http", scheme), tree.path("f"), true));
+        EXPECT_EQ(curl.httpCode(), 7);
+        EXPECT_TRUE(tree.list().isEmpty());
+    }
+}
+
+TEST(OvCurlWrapper, TellsSixForAHostAndFiveForAProxyThatCannotBe)
+{
+    // A name with an empty part is refused by the resolver itself, without asking the network.
+    const TempTree tree;
+    OvCurlWrapper curl;
+    EXPECT_FALSE(curl.download("http://a..b/", tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 6);
+
+    const Variable proxy("http_proxy", "http://a..b:9/");
+    const Variable direct("no_proxy", "");
+    EXPECT_FALSE(curl.download("http://127.0.0.1:9/", tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 5);
+    EXPECT_TRUE(tree.list().isEmpty());
+}
+
+TEST(OvCurlWrapper, TellsAnErrorNumberForAnAddressOfABadForm)
+{
+    const TempTree tree;
+    for (const char* address : {"", "http://", "http://[::1/", "http://127.0.0.1:99999/",
+             "http://127.0.0.1/with a blank"}) {
+        SCOPED_TRACE(address);
+        OvCurlWrapper curl;
+        EXPECT_FALSE(curl.download(address, tree.path("file"), true));
+        EXPECT_EQ(curl.httpCode(), 3); // malformed
+        EXPECT_TRUE(tree.list().isEmpty());
+    }
+}
+
+TEST(OvCurlWrapper, LeavesNoPartOfABodyThatEndsTooEarly)
+{
+    HttpServer server;
+    server.answer("/a", "HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\nonly this");
+    const TempTree tree;
+    OvCurlWrapper curl;
+    EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 200); // an answer came
+    EXPECT_TRUE(tree.list().isEmpty());
+}
+
+TEST(OvCurlWrapper, TellsAnErrorNumberWhereTheConnectionGivesNoAnswer)
+{
+    HttpServer server;
+    server.answer("/a", "");
+    const TempTree tree;
+    OvCurlWrapper curl;
+    EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 52); // nothing was got
+    EXPECT_TRUE(tree.list().isEmpty());
+}
+
+TEST(OvCurlWrapper, RefusesABodyThatIsAnnouncedAbove2GiB)
+{
+    HttpServer server;
+    server.answer("/a", "HTTP/1.1 200 OK\r\nContent-Length: 2147483649\r\n\r\nbegin");
+    const TempTree tree;
+    OvCurlWrapper curl;
+    EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), true));
+    EXPECT_TRUE(tree.list().isEmpty());
+}
+
+TEST(OvCurlWrapper, ReplacesAFileOnlyWhereThatIsWanted)
+{
+    HttpServer server;
+    server.answer("/a", HttpServer::reply(200, "new"));
+    const TempTree tree;
+    tree.write("file", "old and longer");
+    OvCurlWrapper curl;
+    EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), false));
+    EXPECT_EQ(tree.read("file"), "old and longer");
+    EXPECT_TRUE(server.asked().empty());
+    EXPECT_TRUE(curl.download(server.address("/a"), tree.path("file"), true));
+    EXPECT_EQ(tree.read("file"), "new");
+}
+
+TEST(OvCurlWrapper, FailsWhereTheFileCannotBeMade)
+{
+    HttpServer server;
+    server.answer("/a", HttpServer::reply(200, "body"));
+    const TempTree tree;
+    tree.makeDir("directory");
+    for (const char* path : {"absent/file", "directory"}) {
+        SCOPED_TRACE(path);
+        OvCurlWrapper curl;
+        EXPECT_FALSE(curl.download(server.address("/a"), tree.path(path), true));
+        EXPECT_EQ(tree.list(), QStringList({"directory/"}));
+    }
+}
