@@ -21,6 +21,7 @@ public:
     void setAttachStage(bool attachStage) override;
 
 private:
+    double unitsLeft() const;
     bool advance(double parentUnits);
 
     CIProgressCallback* m_parent;

@@ -38,6 +38,7 @@ public:
     const QString& propLabel() const { return m_property.label; }
     const QString& propValue() const { return m_property.value; }
     const QMap<QString, QString>& propValueEntry() const { return m_property.entry; }
+    const ContactProperty& contents() const { return m_property; }
 
 private:
     ContactProperty m_property;

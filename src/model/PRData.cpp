@@ -13,9 +13,6 @@
 PRData::PRData(int dataType, RecordList records, QStringList columns)
     : m_dataType(dataType), m_records(std::move(records)), m_columns(std::move(columns))
 {
-    if (m_columns.isEmpty()) {
-        m_columns.append(QStringLiteral("Name"));
-    }
 }
 
 PRData::~PRData() = default;
@@ -94,6 +91,11 @@ QString PRData::onDowmloadThumbnail(OvCurlWrapper& curl, const QString& url, QSt
     QString path = directory.filePath(name);
     curl.download(url, path, true); // the caller asks whether the file exists
     return path;
+}
+
+QStringList PRData::nameColumn()
+{
+    return {QStringLiteral("Name")};
 }
 
 PRContactData::PRContactData(RecordList records, QStringList columns)

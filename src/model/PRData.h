@@ -16,8 +16,8 @@ using RecordList = std::vector<std::unique_ptr<PRAbstractItem>>;
 /// The records of one data type, in order, addressed by row. Owned by its `PRBackup`.
 class DATAEXPORT_EXPORT PRData {
 public:
-    /// `columns` are the headings of a table category; one column "Name" where none are given.
-    explicit PRData(int dataType, RecordList records = {}, QStringList columns = {});
+    /// `columns` are the headings of a table category; an empty list makes a table without columns.
+    explicit PRData(int dataType, RecordList records = {}, QStringList columns = nameColumn());
     PRData(const PRData&) = delete;
     PRData& operator=(const PRData&) = delete;
     virtual ~PRData();
@@ -49,6 +49,9 @@ public:
     /// The path is returned in any case; the file exists only if the download worked.
     static QString onDowmloadThumbnail(OvCurlWrapper& curl, const QString& url, QString suffix);
 
+    /// The columns of a set that names none: "Name" alone.
+    static QStringList nameColumn();
+
 protected:
     /// The records. A reader whose records are many loads them when they are first asked for.
     virtual const RecordList& records() const { return m_records; }
@@ -62,13 +65,13 @@ private:
 /// The contacts of a backup (data type 2).
 class DATAEXPORT_EXPORT PRContactData : public PRData {
 public:
-    explicit PRContactData(RecordList records = {}, QStringList columns = {});
+    explicit PRContactData(RecordList records = {}, QStringList columns = nameColumn());
     ~PRContactData() override;
 };
 
 /// The message conversations of a backup (data type 0).
 class DATAEXPORT_EXPORT PRSMSData : public PRData {
 public:
-    explicit PRSMSData(RecordList records = {}, QStringList columns = {});
+    explicit PRSMSData(RecordList records = {}, QStringList columns = nameColumn());
     ~PRSMSData() override;
 };

@@ -29,6 +29,8 @@ public:
     QString thumbnail() const { return m_content.thumbnail; }
     bool isThumbToMedia() { return m_content.thumbToMedia; }
     QString getDetailInfoDateTime() const { return m_content.detailDate; }
+    /// All but the path, which only `filePath` knows.
+    const FileContent& contents() const { return m_content; }
 
 private:
     FileContent m_content;

@@ -25,6 +25,7 @@ public:
     ~PRNoteItem() override;
 
     const QList<NotePiece*>& notePieces() const { return m_pieces; }
+    const std::vector<NotePiece>& contents() const { return m_ownedPieces; }
 
 private:
     std::vector<NotePiece> m_ownedPieces;

@@ -44,6 +44,7 @@ public:
     bool isRoom() const { return m_content.room; }
     QString HeadImage() const { return m_content.headImage; }
     QList<MemberContact> members() const { return m_content.members; }
+    const Content& contents() const { return m_content; }
 
 private:
     Content m_content;

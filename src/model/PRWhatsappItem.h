@@ -58,6 +58,7 @@ public:
     bool isDrawLike() const { return m_message.drawLike; }
     int getLikeType() const { return m_message.likeType; }
     int getLikeCount() const { return m_message.likeCount; }
+    const ChatMessage& contents() const { return m_message; }
 
 private:
     ChatMessage m_message;
@@ -72,6 +73,7 @@ public:
     ~PRWhatsappChat();
 
     const QList<PRWhatsappMsg*>& messages() const { return m_messages; }
+    const std::vector<PRWhatsappMsg>& contents() const { return m_ownedMessages; }
 
 private:
     std::vector<PRWhatsappMsg> m_ownedMessages;
