@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+// What an exporter keeps from run to run.
+#include "driver/driver_fixture.h"
+#include "driver/exporter_access.h"
+#include "support/recording_progress.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QPointer>
+#include <QTimer>
+
+#include <type_traits>
+
+namespace {
+
+using access_to::cancelled;
+using access_to::eventLoop;
+using access_to::exportContactForTavero;
+using access_to::fromDFU;
+using access_to::stopLoop;
+
+// A loop that deletes itself when it is told to, as the exporter's own does.
+QPointer<QEventLoop> makeLoop()
+{
+    return std::make_unique<QEventLoop>().release();
+}
+
+void deletePosted()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+TEST(ExporterState, StartsWithAllOff)
+{
+    const CBackupExporter exporter;
+    EXPECT_FALSE(exporter.*fromDFU());
+    EXPECT_FALSE(exporter.*exportContactForTavero());
+    EXPECT_EQ(exporter.*eventLoop(), nullptr);
+    EXPECT_EQ((exporter.*access_to::curl()).httpCode(), 0);
+    EXPECT_FALSE(exporter.*stopLoop());
+    EXPECT_FALSE(exporter.*cancelled());
+}
+
+TEST(ExporterState, SettersStoreBothValues)
+{
+    CBackupExporter exporter;
+    for (const bool value : {true, false}) {
+        exporter.setFromDFU(value);
+        EXPECT_EQ(exporter.*fromDFU(), value);
+        EXPECT_EQ(exporter.*exportContactForTavero(), false);
+    }
+    for (const bool value : {true, false}) {
+        exporter.setExportContactForTavero(value);
+        EXPECT_EQ(exporter.*exportContactForTavero(), value);
+        EXPECT_EQ(exporter.*fromDFU(), false);
+    }
+}
+
+TEST(ExporterState, CancelDownloadCancelsForGoodAndClearsTheStop)
+{
+    CBackupExporter exporter;
+    exporter.*stopLoop() = true;
+    exporter.cancelDownload();
+    EXPECT_TRUE(exporter.*cancelled());
+    EXPECT_FALSE(exporter.*stopLoop());
+    PRBackup empty;
+    exporter.exportBackup(&empty, QDir(), nullptr, false, "Anna");
+    EXPECT_TRUE(exporter.*cancelled());
+}
+
+TEST(ExporterState, OnStopLoopStoresItsValueAndCancelsNothing)
+{
+    CBackupExporter exporter;
+    for (const bool stop : {true, false}) {
+        exporter.onStopLoop(stop);
+        EXPECT_EQ(exporter.*stopLoop(), stop);
+        EXPECT_FALSE(exporter.*cancelled());
+    }
+}
+
+TEST(ExporterState, BothWaysToStopQuitTheLoopAndLetItGo)
+{
+    struct {
+        const char* what;
+        void (*stop)(CBackupExporter& exporter);
+    } const rows[] = {
+        {"cancelDownload", [](CBackupExporter& exporter) { exporter.cancelDownload(); }},
+        {"onStopLoop true", [](CBackupExporter& exporter) { exporter.onStopLoop(true); }},
+        {"onStopLoop false", [](CBackupExporter& exporter) { exporter.onStopLoop(false); }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        CBackupExporter exporter;
+        const QPointer<QEventLoop> loop = makeLoop();
+        exporter.*eventLoop() = loop;
+        bool hung = false;
+        QTimer::singleShot(0, loop.data(), [&] { row.stop(exporter); });
+        QTimer::singleShot(10'000, loop.data(), [&] {
+            hung = true;
+            loop->exit();
+        });
+        loop->exec();
+        EXPECT_FALSE(hung) << "the loop was not quit";
+        EXPECT_EQ(exporter.*eventLoop(), nullptr);
+        deletePosted();
+        EXPECT_TRUE(loop.isNull()) << "the loop was not deleted";
+        row.stop(exporter); // without a loop
+    }
+}
+
+TEST(ExporterState, TheEndOfAnExporterLeavesTheLoopAlone)
+{
+    const QPointer<QEventLoop> loop = makeLoop();
+    {
+        CBackupExporter exporter;
+        exporter.*eventLoop() = loop;
+    }
+    deletePosted();
+    ASSERT_FALSE(loop.isNull());
+    const std::unique_ptr<QEventLoop> owned(loop.data());
+}
+
+CBackupExporter withAllSet(QEventLoop& loop)
+{
+    CBackupExporter exporter;
+    exporter.setFromDFU(true);
+    exporter.setExportContactForTavero(true);
+    exporter.cancelDownload();
+    exporter.onStopLoop(true);
+    exporter.*eventLoop() = &loop;
+    // A scheme that nothing fetches: the result is an error number, without a network.
+    (exporter.*access_to::curl()).download("unknown://x", "/nowhere/at/all", true);
+    return exporter;
+}
+
+void expectAllSet(const CBackupExporter& exporter, const QEventLoop& loop)
+{
+    EXPECT_TRUE(exporter.*fromDFU());
+    EXPECT_TRUE(exporter.*exportContactForTavero());
+    EXPECT_TRUE(exporter.*cancelled());
+    EXPECT_TRUE(exporter.*stopLoop());
+    EXPECT_EQ(exporter.*eventLoop(), &loop);
+    EXPECT_NE((exporter.*access_to::curl()).httpCode(), 0);
+}
+
+TEST(ExporterState, ACopyHasAllFields)
+{
+    QEventLoop loop;
+    const CBackupExporter original = withAllSet(loop);
+    const CBackupExporter copy(original);
+    expectAllSet(copy, loop);
+    expectAllSet(original, loop);
+}
+
+TEST(ExporterState, AssignmentTakesAllFieldsAndIsTheWayToClearACancel)
+{
+    QEventLoop loop;
+    CBackupExporter exporter;
+    exporter = withAllSet(loop);
+    expectAllSet(exporter, loop);
+    exporter = CBackupExporter();
+    EXPECT_FALSE(exporter.*cancelled());
+    EXPECT_FALSE(exporter.*stopLoop());
+    EXPECT_EQ(exporter.*eventLoop(), nullptr);
+}
+
+TEST(ExporterState, HasNeitherBaseNorVirtualOperations)
+{
+    EXPECT_FALSE(std::is_polymorphic_v<CBackupExporter>);
+}
+
+using ExporterCopy = DriverTest;
+
+TEST_F(ExporterCopy, Exports)
+{
+    PRBackup backup;
+    backup.add(smsSet(1));
+    CBackupExporter original;
+    original.cancelDownload(); // categories are written all the same
+    CBackupExporter copy(original);
+    support::RecordingProgress progress;
+    EXPECT_TRUE(copy.exportBackup(&backup, root(), &progress, false, "Anna"));
+    EXPECT_EQ(csvRows(), 1);
+}
+
+} // namespace

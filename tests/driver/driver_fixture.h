@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "model/PRBackup.h"
+#include "model/PRSMSItem.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <gtest/gtest.h>
+
+/// A directory to export into, and small sets to export.
+class DriverTest : public testing::Test {
+protected:
+    QDir root() const { return QDir(m_directory.path()); }
+
+    /// All files and directories beneath the root, sorted; directories end in "/".
+    QStringList tree() const
+    {
+        QStringList paths;
+        QDirIterator entries(m_directory.path(),
+            QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+        while (entries.hasNext()) {
+            const QString path = entries.next();
+            paths.append(root().relativeFilePath(path) + (QFileInfo(path).isDir() ? "/" : ""));
+        }
+        paths.sort();
+        return paths;
+    }
+
+    static RecordList plainRecords(int selected, int unselected = 0)
+    {
+        RecordList records;
+        for (int i = 0; i < selected + unselected; ++i) {
+            records.push_back(std::make_unique<PRAbstractItem>(Record{.selected = i < selected}));
+        }
+        return records;
+    }
+
+    static std::unique_ptr<PRData> plainSet(int dataType, int selected, int unselected = 0)
+    {
+        return std::make_unique<PRData>(dataType, plainRecords(selected, unselected));
+    }
+
+    static std::unique_ptr<PRSMSItem> conversation(const QString& text, bool selected = true)
+    {
+        SmsConversation messages;
+        messages.chats.emplace_back(SmsMessage{.content = text});
+        return std::make_unique<PRSMSItem>(Record{.selected = selected}, std::move(messages));
+    }
+
+    static std::unique_ptr<PRSMSData> smsSet(int selected)
+    {
+        RecordList records;
+        for (int i = 0; i < selected; ++i) {
+            records.push_back(conversation(QString::number(i + 1)));
+        }
+        return std::make_unique<PRSMSData>(std::move(records));
+    }
+
+    /// Rows of the message CSV of the owner "Anna" behind the labels; -1 where there is no file.
+    int csvRows() const
+    {
+        QFile file(root().filePath("Messages/Anna's Messages.csv"));
+        if (!file.open(QIODevice::ReadOnly)) {
+            return -1;
+        }
+        return QString::fromUtf16(reinterpret_cast<const char16_t*>(file.readAll().constData()))
+                   .count('\n')
+               - 1;
+    }
+
+private:
+    QTemporaryDir m_directory;
+};
+
+/// The 36 data types in the order in which they are counted and written.
+inline const QVector<int> kTableOrder{21, 22, 23, 2, 0, 1, 3, 29, 27, 28, 30, 31, 32, 33, 34, 5, 6,
+    7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 24, 25, 26, 35, 4};

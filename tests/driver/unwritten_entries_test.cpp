@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// Categories that have no writer yet.
+#include "driver/driver_fixture.h"
+#include "driver/exporter_access.h"
+#include "support/recording_progress.h"
+
+namespace {
+
+using UnwrittenEntries = DriverTest;
+
+TEST_F(UnwrittenEntries, FailWithoutATrace)
+{
+    struct {
+        const char* what;
+        access_to::Entry entry;
+    } const rows[] = {
+        {"bookmarks", access_to::exportBookmark()},
+        {"calendar", access_to::exportCalendarIcs()},
+        {"contacts", access_to::exportContact()},
+        {"files", access_to::exportFile()},
+        {"tables", access_to::exportHtml()},
+        {"chat contacts", access_to::exportWeichatContact()},
+        {"chats", access_to::exportWhatsapp()},
+        {"chat page", access_to::exportWhatsappHtml()},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        PRContactData data(plainRecords(2));
+        CBackupExporter exporter;
+        support::RecordingProgress progress;
+        EXPECT_FALSE(row.entry(&data, root(), "Anna", "Cat", &progress, &exporter, true));
+        EXPECT_EQ(progress.calls(), QStringList());
+        EXPECT_EQ(tree(), QStringList());
+    }
+}
+
+TEST_F(UnwrittenEntries, ServeAllTypesButTheMessages)
+{
+    for (int type = 1; type < 36; ++type) {
+        SCOPED_TRACE(type);
+        PRBackup backup;
+        backup.add(
+            type == 2 ? std::make_unique<PRContactData>(plainRecords(1)) : plainSet(type, 1));
+        EXPECT_TRUE(
+            CBackupExporter().exportBackup(&backup, root(), nullptr, {type}, false, "Anna"));
+        EXPECT_EQ(tree(), QStringList());
+    }
+}
+
+} // namespace
