@@ -14,8 +14,16 @@ namespace sample {
 
 namespace {
 
-enum Property { Phone = 3, Mail = 4, Address = 5, Date = 12, Messenger = 13, Page = 22,
-    Related = 23, Profile = 46 };
+enum Property {
+    Phone = 3,
+    Mail = 4,
+    Address = 5,
+    Date = 12,
+    Messenger = 13,
+    Page = 22,
+    Related = 23,
+    Profile = 46
+};
 
 struct Values {
     const char* key; // in people.json
@@ -88,9 +96,9 @@ void AddressBook::write(const QJsonObject& source)
 void AddressBook::writePerson(const QJsonObject& source, qint64 row)
 {
     const qint64 made = secondsSince2001("2018-12-24 18:00:00") + row * 86400;
-    Database::Row cells{{"ROWID", row}, {"guid", uuidFor(QString("person %1").arg(row)) + ":ABPerson"},
-        {"CreationDate", made}, {"ModificationDate", made},
-        {"FirstSortSection", letterOf(source, "First", "Organization")},
+    Database::Row cells{{"ROWID", row},
+        {"guid", uuidFor(QString("person %1").arg(row)) + ":ABPerson"}, {"CreationDate", made},
+        {"ModificationDate", made}, {"FirstSortSection", letterOf(source, "First", "Organization")},
         {"LastSortSection", letterOf(source, "Last", "Organization")}};
     const QStringList keys = source.keys();
     std::vector<QByteArray> names; // outlive the row
@@ -115,8 +123,8 @@ void AddressBook::writePerson(const QJsonObject& source, qint64 row)
         const QByteArray bytes = media(source["picture"].toString(), m_mediaFolder);
         m_pictures.insert("ABFullSizeImage", {{"record_id", row}, {"crop_x", 0}, {"crop_y", 0},
                                                  {"crop_width", 200}, {"data", bytes}});
-        m_pictures.insert("ABThumbnailImage", {{"record_id", row}, {"format", 0},
-                                                  {"derived_from_format", 2}, {"data", bytes}});
+        m_pictures.insert("ABThumbnailImage",
+            {{"record_id", row}, {"format", 0}, {"derived_from_format", 2}, {"data", bytes}});
     }
 }
 
@@ -135,8 +143,8 @@ void AddressBook::writeValues(
                 {"value", value.isObject() ? QString() : text}, {"guid", uuidFor(name)}});
         writeEntries(row, value.toObject());
         if (property == Phone) {
-            m_book.insert("ABPhoneLastFour",
-                {{"multivalue_id", row}, {"value", digitsOf(text).right(4)}});
+            m_book.insert(
+                "ABPhoneLastFour", {{"multivalue_id", row}, {"value", digitsOf(text).right(4)}});
         }
     }
 }

@@ -72,7 +72,7 @@ void BackupWriter::addParents(const QString& domain, const QString& path)
 QByteArray BackupWriter::description(const QString& path, const Entry& entry, int inode)
 {
     const bool hasThird = entry.kind != Directory;
-    const int mode = entry.kind == File ? kFileMode
+    const int mode = entry.kind == File   ? kFileMode
                      : entry.kind == Link ? kLinkMode
                                           : kDirectoryMode;
     QVariantMap file{

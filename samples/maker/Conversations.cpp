@@ -34,8 +34,8 @@ void Conversations::addConversation(const QJsonObject& source)
     conversation.group = source.contains("group");
     conversation.identifier =
         conversation.group ? source["group"].toString() : conversation.with.first();
-    conversation.guid = conversation.service + (conversation.group ? ";+;" : ";-;")
-                        + conversation.identifier;
+    conversation.guid =
+        conversation.service + (conversation.group ? ";+;" : ";-;") + conversation.identifier;
     m_conversations.push_back(conversation);
 }
 
@@ -74,8 +74,8 @@ void Conversations::order()
 
 const Message& Conversations::message(const QString& id) const
 {
-    const auto found =
-        std::ranges::find(m_messages, id, [](const Message& message) { return message.value("id"); });
+    const auto found = std::ranges::find(
+        m_messages, id, [](const Message& message) { return message.value("id"); });
     if (id.isEmpty() || found == m_messages.end()) {
         fail("there is no message with the id \"" + id + "\"");
     }

@@ -12,8 +12,8 @@ namespace sample {
 /// One conversation of conversations.json.
 struct Conversation {
     QJsonObject source;
-    QString service;    ///< "iMessage" or "SMS"
-    QStringList with;   ///< addresses of all but the owner
+    QString service;  ///< "iMessage" or "SMS"
+    QStringList with; ///< addresses of all but the owner
     bool group = false;
     QString identifier; ///< the address, or "chat" and a number
     QString guid;
@@ -27,7 +27,7 @@ struct Message {
     qint64 rowId = 0;                           ///< by the order of dates, as on a phone
     QString service;
     QString guid;
-    QString sender; ///< address; empty for the owner
+    QString sender;       ///< address; empty for the owner
     QString previousGuid; ///< of the message before it in its conversation
 
     bool fromMe() const { return sender.isEmpty(); }

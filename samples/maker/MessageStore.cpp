@@ -93,7 +93,8 @@ const FileKind& kindOf(const QString& name)
 {
     const QFileInfo file(name);
     const QString suffix = name.endsWith(".loc.vcf") ? "loc.vcf" : file.suffix().toLower();
-    const auto* const found = std::ranges::find_if(kFileKinds, [&](const FileKind& kind) { return suffix == kind.suffix; });
+    const auto* const found = std::ranges::find_if(
+        kFileKinds, [&](const FileKind& kind) { return suffix == kind.suffix; });
     if (found == kFileKinds.end()) {
         fail("no kind of file is known for " + name);
     }
@@ -127,8 +128,7 @@ void append(Database::Row& row, const Database::Row& more)
 MessageStore::MessageStore(const Conversations& source, Database& database, BackupWriter& backup,
     const QString& mediaFolder)
     : m_source(source), m_database(database), m_backup(backup), m_mediaFolder(mediaFolder),
-      m_ownPhone(source.source()["phone"].toString()),
-      m_ownMail(source.source()["mail"].toString())
+      m_ownPhone(source.source()["phone"].toString()), m_ownMail(source.source()["mail"].toString())
 {
 }
 
@@ -170,16 +170,16 @@ void MessageStore::writeConversation(const Conversation& conversation)
 {
     const QString room = conversation.group ? conversation.identifier : QString();
     const QString group = uuidFor("group " + conversation.guid);
-    const qint64 chat = m_database.insert("chat",
-        {{"guid", conversation.guid}, {"style", conversation.group ? kGroup : kOneToOne},
-            {"state", 3}, {"account_id", uuidFor("account " + conversation.service)},
-            {"chat_identifier", conversation.identifier}, {"service_name", conversation.service},
-            {"room_name", room}, {"account_login", "P:" + m_ownPhone},
-            {"last_addressed_handle", m_ownPhone},
-            {"display_name", conversation.source["name"].toString()}, {"group_id", group},
-            {"is_archived", conversation.source["archived"].toBool() ? 1 : 0},
-            {"is_filtered", conversation.source["filtered"].toBool() ? 1 : 0},
-            {"successful_query", 1}, {"original_group_id", group}});
+    const qint64 chat = m_database.insert(
+        "chat", {{"guid", conversation.guid}, {"style", conversation.group ? kGroup : kOneToOne},
+                    {"state", 3}, {"account_id", uuidFor("account " + conversation.service)},
+                    {"chat_identifier", conversation.identifier},
+                    {"service_name", conversation.service}, {"room_name", room},
+                    {"account_login", "P:" + m_ownPhone}, {"last_addressed_handle", m_ownPhone},
+                    {"display_name", conversation.source["name"].toString()}, {"group_id", group},
+                    {"is_archived", conversation.source["archived"].toBool() ? 1 : 0},
+                    {"is_filtered", conversation.source["filtered"].toBool() ? 1 : 0},
+                    {"successful_query", 1}, {"original_group_id", group}});
     m_chats[&conversation] = chat;
     for (const QString& address : conversation.with) {
         m_database.insert("chat_handle_join",
@@ -227,12 +227,12 @@ void MessageStore::addState(Database::Row& row, const Message& message) const
     const bool sent = message.fromMe() && error == 0;
     const bool delivered = sent && message.service == "iMessage";
     const bool read = !message.fromMe() && !message.has("unread");
-    append(row, {{"error", error}, {"is_sent", sent ? 1 : 0}, {"is_read", read ? 1 : 0},
-                    {"is_delivered", delivered || !message.fromMe() ? 1 : 0},
-                    {"date_read", read ? nanoseconds(message.seconds + kSecondsToRead) : 0},
-                    {"date_delivered",
-                        delivered ? nanoseconds(message.seconds + kSecondsToDeliver) : 0},
-                    {"was_downgraded", message.has("downgraded") ? 1 : 0}});
+    append(row,
+        {{"error", error}, {"is_sent", sent ? 1 : 0}, {"is_read", read ? 1 : 0},
+            {"is_delivered", delivered || !message.fromMe() ? 1 : 0},
+            {"date_read", read ? nanoseconds(message.seconds + kSecondsToRead) : 0},
+            {"date_delivered", delivered ? nanoseconds(message.seconds + kSecondsToDeliver) : 0},
+            {"was_downgraded", message.has("downgraded") ? 1 : 0}});
     if (message.has("audio")) {
         append(row, {{"is_audio_message", 1}, {"is_played", 1}, {"is_expirable", 1},
                         {"date_played", nanoseconds(message.seconds + kSecondsToRead)}});
@@ -270,7 +270,8 @@ void MessageStore::addText(Database::Row& row, const Message& message) const
 void MessageStore::addEvent(Database::Row& row, const Message& message)
 {
     const QString name = message.value("event");
-    const auto* const kind = std::ranges::find_if(kEvents, [&](const EventKind& event) { return name == event.name; });
+    const auto* const kind =
+        std::ranges::find_if(kEvents, [&](const EventKind& event) { return name == event.name; });
     if (kind == kEvents.end()) {
         fail("no event is called \"" + name + "\"");
     }
@@ -289,9 +290,9 @@ void MessageStore::addReference(Database::Row& row, const Message& message) cons
     }
     if (message.has("replyTo")) {
         const Message& first = m_source.message(message.value("replyTo"));
-        append(row, {{"thread_originator_guid", first.guid},
-                        {"thread_originator_part",
-                            QString("0:0:%1").arg(originalText(first).size())}});
+        append(row,
+            {{"thread_originator_guid", first.guid},
+                {"thread_originator_part", QString("0:0:%1").arg(originalText(first).size())}});
     }
     if (message.has("on")) {
         const Message& target = m_source.message(message.value("on"));
@@ -328,9 +329,9 @@ void MessageStore::placeMessage(const Message& message)
     const QString deleted =
         message.source["deleted"].toString(message.conversation->source["deleted"].toString());
     if (!deleted.isEmpty()) {
-        m_database.insert("chat_recoverable_message_join",
-            {{"chat_id", chat}, {"message_id", message.rowId},
-                {"delete_date", nanosecondsAt(deleted)}});
+        m_database.insert(
+            "chat_recoverable_message_join", {{"chat_id", chat}, {"message_id", message.rowId},
+                                                 {"delete_date", nanosecondsAt(deleted)}});
         return;
     }
     m_database.insert("chat_message_join", {{"chat_id", chat}, {"message_id", message.rowId},

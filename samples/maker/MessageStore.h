@@ -40,7 +40,7 @@ private:
     QString m_mediaFolder;
     QString m_ownPhone;
     QString m_ownMail;
-    QHash<QString, qint64> m_handles;             // by service and address
+    QHash<QString, qint64> m_handles; // by service and address
     QHash<const Conversation*, qint64> m_chats;
 };
 

@@ -56,9 +56,8 @@ const std::initializer_list<quint32> kUpright{kOne, 0, 0, 0, kOne, 0, 0, 0, 0x40
 
 QByteArray movieHeader()
 {
-    return atom("mvhd",
-        numbers({kPlain, 0, 0, kFramesPerSecond, kFrames, kOne, 0x01000000, 0, 0})
-            + numbers(kUpright) + numbers({0, 0, 0, 0, 0, 0, 2}));
+    return atom("mvhd", numbers({kPlain, 0, 0, kFramesPerSecond, kFrames, kOne, 0x01000000, 0, 0})
+                            + numbers(kUpright) + numbers({0, 0, 0, 0, 0, 0, 2}));
 }
 
 QByteArray trackHeader()
@@ -78,10 +77,9 @@ QByteArray handler(const char* type, const char* subtype)
 QByteArray codec()
 {
     constexpr quint32 dotsPerInch = 72 * kOne;
-    const QByteArray entry = numbers({0, 1, 0, 0, 0, 0x200, (kWidth << 16U) | kHeight, dotsPerInch,
-                                 dotsPerInch, 0})
-                             + QByteArray("\0\1", 2) + QByteArray(32, '\0')
-                             + QByteArray("\0\x18\xff\xff", 4);
+    const QByteArray entry =
+        numbers({0, 1, 0, 0, 0, 0x200, (kWidth << 16U) | kHeight, dotsPerInch, dotsPerInch, 0})
+        + QByteArray("\0\1", 2) + QByteArray(32, '\0') + QByteArray("\0\x18\xff\xff", 4);
     return atom("stsd", numbers({kPlain, 1}) + atom("jpeg", entry));
 }
 
@@ -102,9 +100,9 @@ QByteArray mediaAtom(const std::vector<QByteArray>& frames, quint32 firstFrameAt
     const QByteArray itself = atom("alis", numbers({1})); // the frames are in this file
     const QByteArray reference = atom("dinf", atom("dref", numbers({kPlain, 1}) + itself));
     const QByteArray header = atom("mdhd", numbers({kPlain, 0, 0, kFramesPerSecond, kFrames, 0}));
-    const QByteArray information = atom("minf", atom("vmhd", numbers({1, 0, 0}))
-                                                    + handler("dhlr", "alis") + reference
-                                                    + sampleTable(frames, firstFrameAt));
+    const QByteArray information =
+        atom("minf", atom("vmhd", numbers({1, 0, 0})) + handler("dhlr", "alis") + reference
+                         + sampleTable(frames, firstFrameAt));
     return atom("mdia", header + handler("mhlr", "vide") + information);
 }
 

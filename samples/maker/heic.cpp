@@ -2,9 +2,8 @@
 #include "pictures.h"
 
 #ifdef DATAEXPORT_SAMPLE_HEIC
-#include <libheif/heif.h>
-
 #include <cstring>
+#include <libheif/heif.h>
 #include <memory>
 #endif
 

@@ -34,7 +34,8 @@ constexpr std::array kMade{
 
 QByteArray media(const QString& name, const QString& directory)
 {
-    const auto* const made = std::ranges::find_if(kMade, [&](const Made& file) { return name == file.name; });
+    const auto* const made =
+        std::ranges::find_if(kMade, [&](const Made& file) { return name == file.name; });
     return made != kMade.end() ? made->make() : readFile(directory + "/" + name);
 }
 

@@ -39,8 +39,7 @@ QByteArray melody()
     for (const double note : kNotes) {
         for (int sample = 0; sample < kNoteLength; ++sample) {
             const double fading = 1.0 - static_cast<double>(sample) / kNoteLength;
-            out << static_cast<qint16>(
-                kVolume * fading * qSin(2 * M_PI * note * sample / kRate));
+            out << static_cast<qint16>(kVolume * fading * qSin(2 * M_PI * note * sample / kRate));
         }
     }
     return bytes;

@@ -42,8 +42,20 @@ constexpr int kTakenBack = 1000; // more than the tapback itself
 
 const Tapback* namedTapback(const QString& name)
 {
-    const auto* const found = std::ranges::find_if(kTapbacks, [&](const Tapback& tapback) { return name == tapback.name; });
+    const auto* const found = std::ranges::find_if(
+        kTapbacks, [&](const Tapback& tapback) { return name == tapback.name; });
     return found != kTapbacks.end() ? found : nullptr;
+}
+
+// A message with a file is called by the kind of the file, any other one by its text.
+QString wordsFor(const Message& message)
+{
+    const QString name =
+        message.source["files"].toArray().first().toObject()["name"].toString().toLower();
+    if (name.isEmpty()) {
+        return QString::fromUtf8("“%1”").arg(originalText(message));
+    }
+    return name.endsWith(".mov") ? "a movie" : "an image";
 }
 
 QString tapbackWords(const Message& message, const Message& target)
@@ -51,9 +63,7 @@ QString tapbackWords(const Message& message, const Message& target)
     const bool undone = message.has("takenBack");
     const QString emoji = message.value("tapback");
     const Tapback* named = namedTapback(emoji);
-    const QString what = target.has("files")
-                             ? QString("an image")
-                             : QString::fromUtf8("“%1”").arg(originalText(target));
+    const QString what = wordsFor(target);
     if (named == nullptr) {
         return (undone ? "Removed a reaction %1 from %2" : QString("Reacted %1 to %2"))
             .arg(emoji, what);
@@ -182,8 +192,8 @@ QByteArray summaryOf(const Message& message)
     QVariantList versions{versionOf(message, original, message.seconds)};
     for (const QJsonValue& edit : edits) {
         const QJsonObject change = edit.toObject();
-        versions.append(QVariant(versionOf(message, change["text"].toString(),
-            secondsSince2001(change["at"].toString()))));
+        versions.append(QVariant(versionOf(
+            message, change["text"].toString(), secondsSince2001(change["at"].toString()))));
     }
     summary["ec"] = QVariantMap{{"0", versions}};
     summary["ep"] = QVariantList{0};
@@ -196,16 +206,27 @@ QByteArray linkPreviewOf(const Message& message)
     if (link.isEmpty()) {
         return {};
     }
-    enum Object { Nothing, Root, Metadata, Url, Address, Title, Summary, Site, ClassUrl, ClassLink,
-        ClassRoot };
+    enum Object {
+        Nothing,
+        Root,
+        Metadata,
+        Url,
+        Address,
+        Title,
+        Summary,
+        Site,
+        ClassUrl,
+        ClassLink,
+        ClassRoot
+    };
     return keyedArchive({
         QVariantMap{{"richLinkIsPlaceholder", false}, {"richLinkMetadata", uid(Metadata)},
             {"$class", uid(ClassRoot)}},
         QVariantMap{{"version", 1}, {"originalURL", uid(Url)}, {"URL", uid(Url)},
             {"title", uid(Title)}, {"summary", uid(Summary)}, {"siteName", uid(Site)},
             {"$class", uid(ClassLink)}},
-        QVariantMap{{"NS.base", uid(Nothing)}, {"NS.relative", uid(Address)},
-            {"$class", uid(ClassUrl)}},
+        QVariantMap{
+            {"NS.base", uid(Nothing)}, {"NS.relative", uid(Address)}, {"$class", uid(ClassUrl)}},
         link["url"].toString(),
         link["title"].toString(),
         link["summary"].toString(),

@@ -150,10 +150,10 @@ QImage cat()
     canvas.ellipse(120, 400, 360, 340, "#ef8e3b");
     canvas.ellipse(210, 470, 180, 250, "#fff3e0");
     for (int stripe = 0; stripe < 4; ++stripe) {
-        canvas.line({125.0 + stripe * 6, 520.0 + stripe * 45}, {190, 510.0 + stripe * 45},
-            "#bf5f1b", 10);
-        canvas.line({475.0 - stripe * 6, 520.0 + stripe * 45}, {410, 510.0 + stripe * 45},
-            "#bf5f1b", 10);
+        canvas.line(
+            {125.0 + stripe * 6, 520.0 + stripe * 45}, {190, 510.0 + stripe * 45}, "#bf5f1b", 10);
+        canvas.line(
+            {475.0 - stripe * 6, 520.0 + stripe * 45}, {410, 510.0 + stripe * 45}, "#bf5f1b", 10);
     }
     canvas.ellipse(190, 690, 90, 60, "#fff3e0");
     canvas.ellipse(320, 690, 90, 60, "#fff3e0");

@@ -17,7 +17,8 @@ struct Uid {
 QByteArray binaryPlist(const QVariant& value);
 QByteArray xmlPlist(const QVariant& value);
 
-/// A keyed archive. `objects` lacks the "$null" at its begin: object 1 comes first, and is the root.
+/// A keyed archive. `objects` lacks the "$null" at its begin: object 1 comes first, and is the
+/// root.
 QByteArray keyedArchive(const QVariantList& objects);
 
 /// The object that names a class: keyedClass({"NSURL", "NSObject"}).
