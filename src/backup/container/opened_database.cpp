@@ -42,7 +42,7 @@ Result<OpenedDatabase> opened(
 }
 
 // The logs keep the database's name with their endings: SQLite finds them by that alone.
-Result<OpenedDatabase> openCopy(const DatabaseFiles& files)
+Result<std::unique_ptr<QTemporaryDir>> copyWithLogs(const DatabaseFiles& files)
 {
     auto scratch = std::make_unique<QTemporaryDir>();
     const QString copy = scratch->filePath(files.name);
@@ -55,7 +55,7 @@ Result<OpenedDatabase> openCopy(const DatabaseFiles& files)
         return Error{.where = files.shownName,
             .what = QStringLiteral("it cannot be copied to %1").arg(QFileInfo(copy).path())};
     }
-    return opened(files, copy, std::move(scratch));
+    return scratch;
 }
 
 bool isSound(const Result<OpenedDatabase>& opened)
@@ -82,7 +82,12 @@ Result<OpenedDatabase> openDatabaseFiles(const DatabaseFiles& files, Notices& no
     if (!hasLog || !QFileInfo(used.path).isFile()) {
         return opened(used, used.path, nullptr);
     }
-    auto replayed = openCopy(used);
+    auto scratch = copyWithLogs(used);
+    if (!scratch) {
+        return scratch.error();
+    }
+    const QString copy = (*scratch)->filePath(used.name);
+    auto replayed = opened(used, copy, std::move(*scratch));
     if (isSound(replayed)) {
         return replayed;
     }
