@@ -8,6 +8,7 @@
 #include "platform/literals.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace backup {
 
@@ -16,10 +17,12 @@ namespace {
 constexpr int kPhone = 3;
 constexpr int kComparedDigits = 7; // a shorter number is a service's own, and must match whole
 
-QString digitsOf(const QString& number)
+// "+49 (0)171 ..." holds a zero that is dialled within the country only.
+QString digitsOf(QString number)
 {
     QString digits;
-    for (const QChar c : number) {
+    number.remove("(0)"_L1);
+    for (const QChar c : std::as_const(number)) {
         if (c.digitValue() >= 0 && (c.digitValue() > 0 || !digits.isEmpty())) {
             digits += QChar(u'0' + c.digitValue());
         }
@@ -27,9 +30,22 @@ QString digitsOf(const QString& number)
     return digits;
 }
 
+bool isEastAsian(const QString& name)
+{
+    return std::ranges::any_of(name, [](QChar c) {
+        return c.script() == QChar::Script_Han || c.script() == QChar::Script_Hiragana
+               || c.script() == QChar::Script_Katakana || c.script() == QChar::Script_Hangul;
+    });
+}
+
 QString personName(const formats::Statement& person)
 {
-    const QString name = (person.text(2) + QChar(u' ') + person.text(3)).simplified();
+    QString first = person.text(2);
+    QString last = person.text(3);
+    if (isEastAsian(first + last)) {
+        std::swap(first, last); // the family name leads
+    }
+    const QString name = (first + QChar(u' ') + last).simplified();
     if (!name.isEmpty()) {
         return name;
     }

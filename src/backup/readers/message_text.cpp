@@ -82,6 +82,27 @@ QString appName(const QString& bundle)
         app != kApps.end() ? app->name : QT_TRANSLATE_NOOP("DataExport", "App message"));
 }
 
+constexpr std::size_t kMarkBytes = 3;
+
+// The first U+FFFC or U+FFFD.
+std::size_t findMark(std::string_view utf8)
+{
+    std::size_t at = utf8.find("\xEF\xBF");
+    while (at != std::string_view::npos) {
+        const std::string_view last = utf8.substr(at + 2, 1);
+        if (last == "\xBC" || last == "\xBD") {
+            return at;
+        }
+        at = utf8.find("\xEF\xBF", at + 1);
+    }
+    return at;
+}
+
+QString fromUtf8(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
+}
+
 QString versionText(const QVariant& version)
 {
     const QByteArray stream = version.toMap().value("t"_L1).toByteArray();
@@ -93,14 +114,29 @@ QString versionText(const QVariant& version)
 
 } // namespace
 
+// The phone shows what stands before and after an attachment in bubbles of their own; here they are
+// lines of one text. The marks are looked for as bytes: a byte that is no UTF-8 becomes U+FFFD too,
+// and stays where it is.
 QString shownText(std::string_view utf8)
 {
-    QString text = QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()));
-    if (utf8.find('\xEF') == std::string_view::npos) {
-        return text; // neither mark begins with another byte
+    std::size_t mark = findMark(utf8);
+    if (mark == std::string_view::npos) {
+        return fromUtf8(utf8);
     }
-    text.remove(QChar::ObjectReplacementCharacter).remove(QChar::ReplacementCharacter);
-    return text.trimmed().isEmpty() ? QString() : text;
+    QStringList parts;
+    const auto addPart = [&parts](std::string_view part) {
+        const QString trimmed = fromUtf8(part).trimmed();
+        if (!trimmed.isEmpty()) {
+            parts.append(trimmed);
+        }
+    };
+    while (mark != std::string_view::npos) {
+        addPart(utf8.substr(0, mark));
+        utf8.remove_prefix(mark + kMarkBytes);
+        mark = findMark(utf8);
+    }
+    addPart(utf8);
+    return parts.join(QChar(u'\n'));
 }
 
 EditHistory readEditHistory(const QByteArray& summaryInfo)
