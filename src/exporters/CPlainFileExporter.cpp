@@ -24,7 +24,10 @@ bool CPlainFileExporter::beginItem(const QString& name)
 
 bool CPlainFileExporter::write(const QString& text, QString& /*result*/)
 {
-    m_stream << text;
+    // Text beside the records is lost: left in the stream, it would begin the next record's file.
+    if (m_file.isOpen()) {
+        m_stream << text;
+    }
     return true;
 }
 
