@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "golden_tree.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using golden::differences;
+using golden::Tree;
+
+TEST(GoldenTree, TreesOfTheSameFilesDoNotDiffer)
+{
+    const Tree tree{{"a", "1"}, {"b/c", ""}, {"d/", ""}};
+    EXPECT_EQ(differences(tree, tree), QStringList());
+    EXPECT_EQ(differences({}, {}), QStringList());
+}
+
+TEST(GoldenTree, EachMissingExtraAndDifferingPathIsTold)
+{
+    const QStringList found = differences({{"gone", ""}, {"kept", "1"}, {"other", "a"}, {"x/", ""}},
+        {{"extra", ""}, {"kept", "1"}, {"other", "b"}, {"x", ""}});
+    ASSERT_EQ(found.size(), 5);
+    EXPECT_EQ(found.at(0), "gone: expected and not written");
+    EXPECT_TRUE(found.at(1).startsWith("other: differs at byte 0 ")) << found.at(1).toStdString();
+    EXPECT_EQ(found.at(2), "x/: expected and not written");
+    EXPECT_EQ(found.at(3), "extra: written and not expected");
+    EXPECT_EQ(found.at(4), "x: written and not expected");
+}
+
+TEST(GoldenTree, TheFirstDifferingLineIsShown)
+{
+    const auto utf16 = [](const QString& text) {
+        return "\xFF\xFE"
+               + QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
+    };
+    struct {
+        const char* what;
+        QByteArray expected;
+        QByteArray actual;
+        const char* difference;
+    } const rows[] = {
+        {"UTF-8", "one\ntwo\nthree\n", "one\ntoo\nthree\n",
+            "f: differs at byte 5 (14 bytes expected, 14 written), line 2\n"
+            "  expected: two\n  written:  too"},
+        {"UTF-16", utf16("one\nt\xC3\xBC\n"), utf16("one\ntu\r\n"),
+            "f: differs at byte 12 (16 bytes expected, 18 written), line 2\n"
+            "  expected: t{00fc}\n  written:  tu{000d}"},
+        {"a line less", "one\n", "one",
+            "f: differs at byte 3 (4 bytes expected, 3 written), line 2\n"
+            "  expected: \n  written:  (no line)"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(differences({{"f", row.expected}}, {{"f", row.actual}}).join('|').toStdString(),
+            row.difference);
+    }
+}
+
+TEST(GoldenTree, APlaceMarkInAPathOrALineStaysText)
+{
+    EXPECT_EQ(differences({{"%2", "%1"}}, {{"%2", "%7"}}).join('|').toStdString(),
+        "%2: differs at byte 1 (2 bytes expected, 2 written), line 1\n"
+        "  expected: %1\n  written:  %7");
+}
+
+TEST(GoldenTree, AByteThatNoTextShowsStillDiffers)
+{
+    EXPECT_EQ(differences({{"f", "\xFF"}}, {{"f", "\xFE"}}).size(), 1);
+    EXPECT_EQ(
+        differences({{"f", QByteArray("a\0b", 3)}}, {{"f", QByteArray("a\0c", 3)}}).size(), 1);
+}
+
+TEST(GoldenTree, WhatIsWrittenIsReadAgainAndNothingElse)
+{
+    const QTemporaryDir parent;
+    const QString directory = parent.filePath("expected");
+    const Tree first{{"old", "1"}};
+    const Tree second{
+        {"a/b/c", QByteArray("\0\r\n\xFF", 4)}, {"a/empty/", ""}, {".hidden", "x"}, {"none", ""}};
+    ASSERT_TRUE(golden::writeTree(directory, first));
+    ASSERT_TRUE(golden::writeTree(directory, second));
+    EXPECT_EQ(golden::readTree(directory), second);
+    ASSERT_TRUE(golden::writeTree(directory, {}));
+    EXPECT_EQ(golden::readTree(directory), Tree());
+    EXPECT_TRUE(QFile::exists(directory + "/.keep"));
+}
+
+TEST(GoldenTree, AnEmptyDirectoryIsTold)
+{
+    const QTemporaryDir directory;
+    ASSERT_TRUE(QDir(directory.path()).mkpath("Messages/image"));
+    EXPECT_EQ(golden::readTree(directory.path()), (Tree{{"Messages/image/", ""}}));
+}
+
+} // namespace
