@@ -122,6 +122,13 @@ class CheckLayers(unittest.TestCase):
             {"tests/model/Record_test.cpp": SPDX + "// using namespace\nusing  namespace std;\n"},
             "tests/model/Record_test.cpp:3: using namespace")
 
+    def test_takes_a_namespace_of_literal_suffixes(self):
+        self.assertEqual(findings_with(
+            {"src/model/Record.cpp": SPDX + "using namespace std::string_view_literals;\n"}), [])
+        self.assert_only_finding(
+            {"src/model/Record.cpp": SPDX + "using namespace std::chrono;\n"},
+            "src/model/Record.cpp:2: using namespace")
+
     def test_takes_500_lines_and_no_more(self):
         self.assertEqual(findings_with({"src/model/Record.cpp": SPDX + "\n" * 499}), [])
         self.assert_only_finding(
