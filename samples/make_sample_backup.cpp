@@ -68,14 +68,14 @@ void writePeople(const Paths& paths, BackupWriter& backup)
 
 void writeOtherEntries(const QJsonObject& phone, BackupWriter& backup)
 {
-    for (const QJsonValue& entry : phone["directories"].toArray()) {
+    for (const QJsonValue& entry : sample::entriesOf(phone["directories"])) {
         backup.addDirectory(entry["domain"].toString(), entry["path"].toString());
     }
-    for (const QJsonValue& entry : phone["links"].toArray()) {
+    for (const QJsonValue& entry : sample::entriesOf(phone["links"])) {
         backup.addLink(
             entry["domain"].toString(), entry["path"].toString(), entry["target"].toString());
     }
-    for (const QJsonValue& entry : phone["propertyLists"].toArray()) {
+    for (const QJsonValue& entry : sample::entriesOf(phone["propertyLists"])) {
         backup.addFile(entry["domain"].toString(), entry["path"].toString(),
             sample::binaryPlist(entry["content"].toObject().toVariantMap()));
     }

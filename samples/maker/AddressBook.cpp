@@ -82,11 +82,11 @@ void AddressBook::write(const QJsonObject& source)
     m_book.insert("ABStore", {{"ROWID", 1}, {"Name", "Card"}, {"Type", 1}, {"AccountID", 1},
                                  {"guid", uuidFor("store 1")}});
     qint64 row = 0;
-    for (const QJsonValue& person : source["people"].toArray()) {
+    for (const QJsonValue& person : entriesOf(source["people"])) {
         writePerson(person.toObject(), ++row);
     }
     writeLinks(source["people"]);
-    for (const QJsonValue& group : source["groups"].toArray()) {
+    for (const QJsonValue& group : entriesOf(source["groups"])) {
         writeGroup(group.toObject());
     }
     m_book.run("COMMIT");
@@ -133,7 +133,7 @@ void AddressBook::writeValues(
     qint64 person, const char* kind, int property, const QJsonValue& values)
 {
     int identifier = 0;
-    for (const QJsonValue& entry : values.toArray()) {
+    for (const QJsonValue& entry : entriesOf(values)) {
         const QJsonValue value = entry.toArray()[1];
         const QString text = property == Date ? dayText(value.toString()) : value.toString();
         const QString name = QString("%1 %2 %3").arg(person).arg(kind).arg(++identifier);
@@ -161,7 +161,7 @@ void AddressBook::writeEntries(qint64 value, const QJsonObject& entries)
 void AddressBook::writeLinks(const QJsonValue& people)
 {
     qint64 row = 0;
-    for (const QJsonValue& person : people.toArray()) {
+    for (const QJsonValue& person : entriesOf(people)) {
         const QJsonObject card = person.toObject();
         ++row;
         if (card.contains("PersonLink") && card["IsPreferredName"].toInt() == 1) {
@@ -177,7 +177,7 @@ void AddressBook::writeGroup(const QJsonObject& source)
     const QString name = source["Name"].toString();
     const qint64 group = m_book.insert(
         "ABGroup", {{"Name", name}, {"StoreID", 0}, {"guid", uuidFor("people " + name)}});
-    for (const QJsonValue& member : source["members"].toArray()) {
+    for (const QJsonValue& member : entriesOf(source["members"])) {
         m_book.insert("ABGroupMembers",
             {{"group_id", group}, {"member_type", 0}, {"member_id", member.toInt()}});
     }

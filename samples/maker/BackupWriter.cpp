@@ -30,8 +30,8 @@ QString fileIdOf(const QString& domain, const QString& path)
 
 } // namespace
 
-BackupWriter::BackupWriter(const QString& directory, qint64 moment)
-    : m_directory(directory), m_moment(moment)
+BackupWriter::BackupWriter(QString directory, qint64 moment)
+    : m_directory(std::move(directory)), m_moment(moment)
 {
 }
 

@@ -14,7 +14,7 @@ class BackupWriter {
 public:
     /// `moment` (seconds since 1970) is when the backup was made, and the date of each entry that
     /// has none of its own.
-    BackupWriter(const QString& directory, qint64 moment);
+    BackupWriter(QString directory, qint64 moment);
 
     /// Writes the payload. The directories above it get entries as well.
     void addFile(

@@ -28,7 +28,7 @@ Conversations::Conversations(const QJsonObject& source) : m_source(source)
 void Conversations::addConversation(const QJsonObject& source)
 {
     Conversation conversation{.source = source, .service = source["service"].toString()};
-    for (const QJsonValue& address : source["with"].toArray()) {
+    for (const QJsonValue& address : entriesOf(source["with"])) {
         conversation.with.append(address.toString());
     }
     conversation.group = source.contains("group");
@@ -44,7 +44,7 @@ void Conversations::addMessages(const Conversation* conversation, const QJsonObj
     const QString place = conversation != nullptr ? conversation->guid : "none";
     QSet<QString> moments;
     QString previous;
-    for (const QJsonValue& entry : source["messages"].toArray()) {
+    for (const QJsonValue& entry : entriesOf(source["messages"])) {
         Message message{.source = entry.toObject(), .conversation = conversation};
         const QString moment = message.value("at");
         if (moments.contains(moment)) {

@@ -45,24 +45,26 @@ QByteArray plainSchema(const QString& path)
     return sql.toUtf8();
 }
 
+void bindText(sqlite3_stmt* statement, int place, const QString& text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    if (!text.isNull()) {
+        sqlite3_bind_text(statement, place, utf8.constData(), utf8.size(), SQLITE_TRANSIENT);
+    }
+}
+
+void bindBytes(sqlite3_stmt* statement, int place, const QByteArray& bytes)
+{
+    sqlite3_bind_blob(statement, place, bytes.constData(), bytes.size(), SQLITE_TRANSIENT);
+}
+
 void bind(sqlite3_stmt* statement, int place, const QVariant& value)
 {
-    switch (value.userType()) {
-    case QMetaType::UnknownType:
-        return;
-    case QMetaType::QByteArray: {
-        const QByteArray bytes = value.toByteArray();
-        sqlite3_bind_blob(statement, place, bytes.constData(), bytes.size(), SQLITE_TRANSIENT);
-        return;
-    }
-    case QMetaType::QString: {
-        const QByteArray utf8 = value.toString().toUtf8();
-        if (!value.toString().isNull()) {
-            sqlite3_bind_text(statement, place, utf8.constData(), utf8.size(), SQLITE_TRANSIENT);
-        }
-        return;
-    }
-    default:
+    if (value.userType() == QMetaType::QString) {
+        bindText(statement, place, value.toString());
+    } else if (value.userType() == QMetaType::QByteArray) {
+        bindBytes(statement, place, value.toByteArray());
+    } else if (value.isValid()) {
         sqlite3_bind_int64(statement, place, value.toLongLong());
     }
 }

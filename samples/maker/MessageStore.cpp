@@ -125,10 +125,11 @@ void append(Database::Row& row, const Database::Row& more)
 
 } // namespace
 
-MessageStore::MessageStore(const Conversations& source, Database& database, BackupWriter& backup,
-    const QString& mediaFolder)
-    : m_source(source), m_database(database), m_backup(backup), m_mediaFolder(mediaFolder),
-      m_ownPhone(source.source()["phone"].toString()), m_ownMail(source.source()["mail"].toString())
+MessageStore::MessageStore(
+    const Conversations& source, Database& database, BackupWriter& backup, QString mediaFolder)
+    : m_source(source), m_database(database), m_backup(backup),
+      m_mediaFolder(std::move(mediaFolder)), m_ownPhone(source.source()["phone"].toString()),
+      m_ownMail(source.source()["mail"].toString())
 {
 }
 

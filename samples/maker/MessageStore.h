@@ -13,8 +13,8 @@ namespace sample {
 class MessageStore {
 public:
     /// Files of messages go into `backup` and are looked up in the folder `mediaFolder`.
-    MessageStore(const Conversations& source, Database& database, BackupWriter& backup,
-        const QString& mediaFolder);
+    MessageStore(
+        const Conversations& source, Database& database, BackupWriter& backup, QString mediaFolder);
 
     void write();
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "common.h"
 
-#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QUuid>
 
@@ -42,12 +42,18 @@ void writeFile(const QString& path, const QByteArray& bytes)
 
 QJsonObject readJson(const QString& path)
 {
-    QJsonParseError error;
+    QJsonParseError error{};
     const QJsonDocument document = QJsonDocument::fromJson(readFile(path), &error);
     if (!document.isObject()) {
         fail(QString("%1, byte %2: %3").arg(path).arg(error.offset).arg(error.errorString()));
     }
     return document.object();
+}
+
+std::vector<QJsonValue> entriesOf(const QJsonValue& array)
+{
+    const QJsonArray entries = array.toArray();
+    return {entries.begin(), entries.end()};
 }
 
 QString uuidFor(const QString& name)

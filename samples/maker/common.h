@@ -3,7 +3,10 @@
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QString>
+
+#include <vector>
 
 namespace sample {
 
@@ -13,6 +16,9 @@ namespace sample {
 QByteArray readFile(const QString& path);
 void writeFile(const QString& path, const QByteArray& bytes);
 QJsonObject readJson(const QString& path);
+
+/// What an array holds; nothing where there is none.
+std::vector<QJsonValue> entriesOf(const QJsonValue& array);
 
 /// An upper-case UUID that is always the same for `name`.
 QString uuidFor(const QString& name);

@@ -14,6 +14,9 @@ constexpr char kPage[] = "BT /F1 26 Tf 40 520 Td (Boarding pass) Tj ET\n"
                          "0 -24 Td (Pier 2, departs 09:40, please be there at 09:10) Tj ET\n"
                          "0.1 0.4 0.7 RG 3 w 40 400 340 1 re S\n";
 
+constexpr char kPageObject[] = "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 420 595]"
+                               " /Contents 4 0 R /Resources << /Font << /F1 5 0 R >> >> >>";
+
 QByteArray stream(const QByteArray& content)
 {
     return "<< /Length " + QByteArray::number(content.size()) + " >>\nstream\n" + content
@@ -27,8 +30,7 @@ QByteArray ticket()
     const QByteArrayList objects{
         "<< /Type /Catalog /Pages 2 0 R >>",
         "<< /Type /Pages /Kids [3 0 R] /Count 1 >>",
-        "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 420 595] /Contents 4 0 R"
-        " /Resources << /Font << /F1 5 0 R >> >> >>",
+        kPageObject,
         stream(kPage),
         "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>",
     };

@@ -77,7 +77,7 @@ Row rowOf(const QString& path)
 // Copies a database and its log under their own names, as a reader does.
 QString copied(const QTemporaryDir& directory, const QString& path)
 {
-    const QString name = directory.filePath(QFileInfo(path).fileName());
+    QString name = directory.filePath(QFileInfo(path).fileName());
     EXPECT_TRUE(QFile::copy(rowOf(path).payload(), name));
     return name;
 }
