@@ -39,6 +39,9 @@ bool liesInSource(const QString& target, const QString& source)
 
 QString targetObjection(const QString& source, const QString& target, bool merge)
 {
+    if (target.isEmpty()) {
+        return QStringLiteral("TARGET is empty");
+    }
     const QFileInfo place(target);
     if ((place.exists() || place.isSymLink()) && !place.isDir()) {
         return target + ": is not a folder"_L1;
@@ -56,6 +59,9 @@ QString targetObjection(const QString& source, const QString& target, bool merge
 
 QString newFileObjection(const QString& source, const QString& target)
 {
+    if (target.isEmpty()) {
+        return QStringLiteral("FILE is empty");
+    }
     const QFileInfo place(target);
     if (place.exists() || place.isSymLink()) {
         return target + ": exists, and is not overwritten"_L1;

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "cli/categories.h"
+#include "model/PRBackup.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace {
+
+struct Row {
+    const char* what;
+    QString list;
+    QVector<int> dataTypes;
+};
+
+std::unique_ptr<PRData> recordsOf(int dataType, int count, bool selected = true)
+{
+    RecordList records;
+    for (int i = 0; i < count; ++i) {
+        records.push_back(std::make_unique<PRAbstractItem>(Record{.selected = selected}));
+    }
+    return std::make_unique<PRData>(dataType, std::move(records));
+}
+
+} // namespace
+
+TEST(ParseCategories, TakesNamesAndNumbers)
+{
+    const std::array rows{
+        Row{"a number", "0", {0}},
+        Row{"the last number", "35", {35}},
+        Row{"a name", "Messages", {0}},
+        Row{"a name in other letters", "cALL hISTORY", {3}},
+        Row{"several, in their order", "Notes,0,Contacts", {27, 0, 2}},
+        Row{"blanks around the commas", " Messages , 2 ", {0, 2}},
+        Row{"one named twice", "0,Messages", {0}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        const formats::Result<QVector<int>> parsed = parseCategories(row.list);
+        ASSERT_TRUE(parsed.has_value());
+        EXPECT_EQ(parsed.value(), row.dataTypes);
+    }
+}
+
+TEST(ParseCategories, NamesWhatIsNoCategory)
+{
+    for (const QString bad : {"Mesages", "36", "-1", "", "1.0"}) {
+        SCOPED_TRACE(bad.toStdString());
+        const formats::Result<QVector<int>> parsed = parseCategories("0," + bad);
+        ASSERT_FALSE(parsed.has_value());
+        EXPECT_TRUE(parsed.error().what.contains('"' + bad + '"'));
+    }
+}
+
+TEST(ParseCategories, ListsAllCategoriesInItsError)
+{
+    const QString what = parseCategories("?").error().what;
+    EXPECT_EQ(what.count('\n'), kDataTypeCount);
+    EXPECT_TRUE(what.contains("\n   0  Messages\n"));
+    EXPECT_TRUE(what.endsWith("\n  35  App Documents"));
+}
+
+TEST(PlanExport, LeavesOutWhatHasNoWriter)
+{
+    PRBackup backup;
+    backup.add(recordsOf(0, 3));
+    backup.add(recordsOf(21, 2));
+    backup.add(recordsOf(1, 12));
+    const ExportPlan plan = planExport(backup, {});
+    EXPECT_EQ(plan.written, (QVector<int>{0}));
+    EXPECT_EQ(plan.unwritten, (QVector<int>{1, 21}));
+    EXPECT_EQ(categoryCounts(backup, plan.unwritten), "Message Attachments (12), Photos (2)");
+}
+
+TEST(PlanExport, CountsSelectedRecordsAlone)
+{
+    PRBackup backup;
+    backup.add(recordsOf(0, 3, false));
+    backup.add(recordsOf(1, 3, false));
+    const ExportPlan plan = planExport(backup, {});
+    EXPECT_TRUE(plan.written.isEmpty());
+    EXPECT_TRUE(plan.unwritten.isEmpty());
+}
+
+TEST(PlanExport, TellsOfEmptyCategoriesOnlyWhereTheyWereNamed)
+{
+    const PRBackup backup;
+    EXPECT_TRUE(planExport(backup, {}).empty.isEmpty());
+    EXPECT_EQ(planExport(backup, {0}).empty, (QVector<int>{0}));
+}
+
+TEST(WithoutWriter, KeepsTheOrderOfTheList)
+{
+    EXPECT_EQ(withoutWriter({21, 0, 5}), (QVector<int>{21, 5}));
+    EXPECT_EQ(categoryNames({21, 5}), "Photos, WhatsApp");
+}

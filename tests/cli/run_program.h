@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+/// What a run of the program left behind.
+struct Outcome {
+    QByteArray output;
+    QByteArray errors;
+    int status = -1; ///< -1: it did not end by itself
+};
+
+/// Runs the built program in `folder`, in the locale "C", to its end.
+Outcome runProgramIn(const QString& folder, const QStringList& arguments);
+
+/// The same; the first time that the program's errors hold `cue`, it gets the signal.
+Outcome interruptProgramIn(
+    const QString& folder, const QStringList& arguments, const QByteArray& cue, int signal);
+
+/// All that the program writes to a terminal of that width, in the order of its writing.
+Outcome runOnTerminal(const QString& folder, const QStringList& arguments, int columns);
