@@ -38,6 +38,7 @@ iconv -f UTF-16 -t UTF-8 "$csv" | grep -qF '"Received","See you at Luna?"' \
 program=$prefix/bin/dataexport
 if [ -e "$program" ]; then
     "$program" --help >/dev/null || fail "the installed program does not run"
+    ldd "$program" | grep -qF "=> $prefix/" || fail "the installed program runs with another library"
 fi
 [ -f "$prefix/share/doc/DataExport/LICENSE" ] || fail "there is no licence"
 [ -d "$prefix/share/dataexport/DataExport" ] || fail "there is no folder of images"
