@@ -30,7 +30,7 @@ bool JsonTree::key(string_t& name)
         return true;
     }
     m_reading.fault = Fault{.pointer = pointer(),
-        .what = QStringLiteral("expected each key of an object once, found this one again")};
+        .what = "expected each key of an object once, found this one again"_L1};
     return false;
 }
 

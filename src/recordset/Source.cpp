@@ -26,10 +26,10 @@ QString quoted(const QString& text)
 QString described(const Json& value)
 {
     if (value.is_object()) {
-        return QStringLiteral("an object");
+        return "an object"_L1;
     }
     if (value.is_array()) {
-        return QStringLiteral("a list");
+        return "a list"_L1;
     }
     if (value.is_string()) {
         return quoted(textFrom(value.get_ref<const std::string&>()));
@@ -97,20 +97,20 @@ bool Source::lacks(std::string_view key, const QString& expectation) const
 
 bool Source::isObject() const
 {
-    return m_json.is_object() || expected(QStringLiteral("an object"));
+    return m_json.is_object() || expected("an object"_L1);
 }
 
 bool Source::isList() const
 {
-    return m_json.is_array() || expected(QStringLiteral("a list"));
+    return m_json.is_array() || expected("a list"_L1);
 }
 
 bool Source::hasOnly(std::initializer_list<Keys> known) const
 {
     for (const auto& [key, value] : m_json.items()) {
         if (!isKnown(key, known)) {
-            return failAt(pointer() + pointerStep(key),
-                QStringLiteral("unknown key, expected one of: %1").arg(listed(known)));
+            return failAt(
+                pointer() + pointerStep(key), "unknown key, expected one of: "_L1 + listed(known));
         }
     }
     return true;

@@ -24,7 +24,7 @@ const std::string* stringOf(const Source& source)
 {
     const auto* text = source.json().get_ptr<const std::string*>();
     if (text == nullptr) {
-        source.expected(QStringLiteral("a string"));
+        source.expected("a string"_L1);
     }
     return text;
 }
@@ -70,8 +70,9 @@ bool readBase64(const Source& source, QByteArray& bytes)
     }
     const auto decoded = QByteArray::fromBase64Encoding(
         bytesOf(*text), QByteArray::Base64Encoding | QByteArray::AbortOnBase64DecodingErrors);
-    if (!decoded) {
-        return source.expected(QStringLiteral("base64"));
+    // The decoder lets a group go that is cut off.
+    if (!decoded || text->size() % 4 != 0) {
+        return source.expected("base64"_L1);
     }
     bytes = *decoded;
     return true;
@@ -92,7 +93,7 @@ bool readFile(const Source& source, QByteArray& bytes)
         }
     }
     const QString reason =
-        file.error() != QFile::NoError ? file.errorString() : QStringLiteral("it is too large");
+        file.error() != QFile::NoError ? file.errorString() : "it is too large"_L1;
     return source.expected(QStringLiteral("a file that can be read (%1)").arg(reason));
 }
 
@@ -106,6 +107,7 @@ constexpr std::array kBytesForms{
     BytesRow{"base64", readBase64},
     BytesRow{"file", readFile},
 };
+constexpr std::array<std::string_view, 3> kBytesKeys{"text", "base64", "file"};
 
 } // namespace
 
@@ -113,7 +115,7 @@ bool Flag::read(const Source& source, bool& truth)
 {
     const auto* value = source.json().get_ptr<const bool*>();
     if (value == nullptr) {
-        return source.expected(QStringLiteral("true or false"));
+        return source.expected("true or false"_L1);
     }
     truth = *value;
     return true;
@@ -173,8 +175,7 @@ bool Date::read(const Source& source, QDateTime& moment)
     }
     const std::optional<QDateTime> read = momentFrom(*value);
     if (!read) {
-        return source.expected(
-            QStringLiteral("a date and time of ISO 8601 such as 2024-05-01T12:30:00Z"));
+        return source.expected("a date and time of ISO 8601 such as 2024-05-01T12:30:00Z"_L1);
     }
     moment = *read;
     return true;
@@ -195,15 +196,17 @@ bool Bytes::read(const Source& source, QByteArray& bytes)
     if (!source.isObject()) {
         return false;
     }
+    if (source.json().size() != 1) {
+        return source.fail(
+            QStringLiteral("expected exactly one of the keys text, base64, file, found %1 keys")
+                .arg(source.json().size()));
+    }
     for (const BytesRow& row : kBytesForms) {
-        const Json* value = source.find(row.key);
-        if (value != nullptr && source.json().size() == 1) {
+        if (const Json* value = source.find(row.key)) {
             return row.read(source.member(*value, row.key), bytes);
         }
     }
-    return source.fail(
-        QStringLiteral("expected exactly one of the keys text, base64, file, found %1 keys")
-            .arg(source.json().size()));
+    return source.hasOnly({kBytesKeys});
 }
 
 void Bytes::write(const QByteArray& bytes, JsonText& out)

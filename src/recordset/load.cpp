@@ -67,7 +67,6 @@ private:
     bool readDocument(const Source& document, RecordSet& result);
     bool readSets(const Source& sets, PRBackup& backup);
     bool readSet(const Source& set, std::size_t index, PRBackup& backup);
-    bool readColumns(const Source& set, QStringList& columns);
     bool readRecords(const Source& list, int dataType, RecordList& records);
 
     QString m_path;
@@ -102,12 +101,12 @@ std::optional<Error> Loader::parse()
     }
     if (file.peek(3) == QByteArray("\xEF\xBB\xBF")) {
         return Error{.where = m_path + ": line 1, column 1"_L1,
-            .what = QStringLiteral("expected UTF-8 without a byte order mark, found one")};
+            .what = "expected UTF-8 without a byte order mark, found one"_L1};
     }
     std::ifstream stream(QFile::encodeName(m_path).constData(), std::ios::binary);
     Json::sax_parse(stream, &m_tree);
     if (stream.bad() || !stream.is_open()) {
-        return Error{.where = m_path, .what = QStringLiteral("cannot be read")};
+        return Error{.where = m_path, .what = "cannot be read"_L1};
     }
     return m_tree.syntaxError() ? std::optional(syntaxError(*m_tree.syntaxError())) : std::nullopt;
 }
@@ -208,32 +207,21 @@ bool Loader::readSet(const Source& set, std::size_t index, PRBackup& backup)
     }
     const int dataType = number->get<int>();
     if (backup.getPRData(dataType) != nullptr) {
-        return set.member(*number, kDataTypeKey)
-            .expected(QStringLiteral("at most one set for a data type"));
+        return set.member(*number, kDataTypeKey).expected("at most one set for a data type"_L1);
     }
-    QStringList columns;
+    QStringList columns = PRData::nameColumn();
+    const Json* names = set.find(kColumnsKey);
+    if (names != nullptr && !forms::TextList::read(set.member(*names, kColumnsKey), columns)) {
+        return false;
+    }
     RecordList records = std::move(m_taken[index]);
-    const Json* list = set.find(kRecordsKey);
-    if (!readColumns(set, columns)
-        || (list != nullptr && records.empty()
-            && !readRecords(set.member(*list, kRecordsKey), dataType, records))) {
+    const Json* rows = set.find(kRecordsKey);
+    if (rows != nullptr && records.empty()
+        && !readRecords(set.member(*rows, kRecordsKey), dataType, records)) {
         return false;
     }
     backup.add(makeSet(dataType, std::move(records), std::move(columns)));
     return true;
-}
-
-// A set without columns could not be shown as a table.
-bool Loader::readColumns(const Source& set, QStringList& columns)
-{
-    const Json* value = set.find(kColumnsKey);
-    if (value == nullptr) {
-        return true;
-    }
-    const Source list = set.member(*value, kColumnsKey);
-    return forms::TextList::read(list, columns)
-           && (!columns.isEmpty()
-               || list.fail(QStringLiteral("expected at least one column, found none")));
 }
 
 bool Loader::readRecords(const Source& list, int dataType, RecordList& records)

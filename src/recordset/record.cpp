@@ -33,7 +33,7 @@ struct Flags : forms::Comparable<int> {
                 return false;
             }
             if (std::ranges::find(kFlags, number) == kFlags.end()) {
-                return element.expected(QStringLiteral("1, 2, 8 or 16"));
+                return element.expected("1, 2, 8 or 16"_L1);
             }
             flags |= number;
         }
@@ -58,11 +58,11 @@ struct Parent : forms::Comparable<std::optional<QString>> {
             return true;
         }
         if (!source.json().is_string()) {
-            return source.expected(QStringLiteral("a string or null"));
+            return source.expected("a string or null"_L1);
         }
         const QString name = textFrom(source.json().get_ref<const std::string&>());
         if (!isParentName(name)) {
-            return source.expected(QStringLiteral("a name other than \".\" and \"..\""));
+            return source.expected("a name other than \".\" and \"..\""_L1);
         }
         parent = name;
         return true;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/literals.h"
 #include "recordset/JsonText.h"
+#include "recordset/forms.h"
 #include "recordset/record.h"
 #include "recordset/recordset.h"
 
@@ -12,6 +13,15 @@ namespace {
 
 using formats::Done;
 using formats::Error;
+
+QStringList columnsOf(const PRData& set)
+{
+    QStringList columns;
+    for (int column = 0; column < set.dataColumn(); ++column) {
+        columns.append(set.columnName(column));
+    }
+    return columns;
+}
 
 /// Writes one file, record by record. Each operation is false once an error was noted.
 class Saver {
@@ -82,13 +92,10 @@ bool Saver::writeSet(const PRData& set)
     m_text.openObject();
     m_text.key("dataType");
     m_text.number(set.dataType());
-    if (set.dataColumn() != 1 || set.columnName(0) != "Name"_L1) {
+    const QStringList columns = columnsOf(set);
+    if (columns != PRData::nameColumn()) {
         m_text.key("columns");
-        m_text.openList();
-        for (int column = 0; column < set.dataColumn(); ++column) {
-            m_text.text(set.columnName(column));
-        }
-        m_text.closeList();
+        forms::TextList::write(columns, m_text);
     }
     if (set.count(1) > 0) {
         m_text.key("records");
@@ -126,7 +133,7 @@ bool Saver::writeRow(const PRData& set, int row)
     if (!flush()) {
         return false;
     }
-    return !m_progress || m_progress(++m_records) || fail(m_path, QStringLiteral("cancelled"));
+    return !m_progress || m_progress(++m_records) || fail(m_path, "cancelled"_L1);
 }
 
 bool Saver::flush()
