@@ -11,13 +11,14 @@ namespace formats {
 
 namespace {
 
-// Bytes of the file that a Database keeps in memory at once.
+// How much of the file a Database keeps in memory at once.
 constexpr int kCacheKiB = 2048;
 
-// "?" and "#" end a path in a URI and "%" begins an escape.
+// "?" and "#" end a path in a URI and "%" begins an escape. Without the empty host a path that
+// begins with two slashes would be taken for one.
 QByteArray uriOf(const QString& path, OpenMode mode)
 {
-    QByteArray uri = "file:" + QFile::encodeName(path).toPercentEncoding("/");
+    QByteArray uri = "file://" + QFile::encodeName(path).toPercentEncoding("/");
     uri += mode == OpenMode::Immutable ? "?immutable=1" : "?mode=rw";
     return uri;
 }
@@ -39,39 +40,59 @@ void FinalizeStatement::operator()(sqlite3_stmt* statement) const
     sqlite3_finalize(statement);
 }
 
+// SQLite refuses a value once the first row was asked for.
+void Statement::beginToBind()
+{
+    if (m_state != State::Refused) {
+        reset();
+    }
+}
+
+void Statement::take(State failure, int code)
+{
+    if (code != SQLITE_OK) {
+        m_state = failure;
+        m_errorText = messageOf(sqlite3_db_handle(m_statement.get()));
+    }
+}
+
 Statement& Statement::bind(int parameter, qint64 value)
 {
-    sqlite3_bind_int64(m_statement.get(), parameter, value);
+    beginToBind();
+    take(State::Refused, sqlite3_bind_int64(m_statement.get(), parameter, value));
     return *this;
 }
 
 Statement& Statement::bind(int parameter, const QString& value)
 {
     const QByteArray utf8 = value.toUtf8();
-    sqlite3_bind_text(
-        m_statement.get(), parameter, utf8.constData(), utf8.size(), SQLITE_TRANSIENT);
+    beginToBind();
+    take(State::Refused, sqlite3_bind_text(m_statement.get(), parameter, utf8.constData(),
+                             utf8.size(), SQLITE_TRANSIENT));
     return *this;
 }
 
+// SQLite itself would begin with the first row again after the last one, and after an error.
 bool Statement::next()
 {
-    if (!m_statement) {
+    if (!m_statement || m_state != State::Rows) {
         return false;
     }
     const int code = sqlite3_step(m_statement.get());
-    m_failed = code != SQLITE_ROW && code != SQLITE_DONE;
-    return code == SQLITE_ROW;
+    if (code == SQLITE_ROW) {
+        return true;
+    }
+    m_state = State::Ended;
+    take(State::Failed, code == SQLITE_DONE ? SQLITE_OK : code);
+    sqlite3_reset(m_statement.get()); // it told its error already; locks are given up
+    return false;
 }
 
 void Statement::reset()
 {
-    sqlite3_reset(m_statement.get());
-    m_failed = false;
-}
-
-QString Statement::errorText() const
-{
-    return messageOf(sqlite3_db_handle(m_statement.get()));
+    sqlite3_reset(m_statement.get()); // it repeats the error of the last row, which is dealt with
+    m_state = State::Rows;
+    m_errorText.clear();
 }
 
 bool Statement::isNull(int column) const
@@ -141,7 +162,11 @@ Result<Database> Database::open(const QString& path, OpenMode mode)
     }
     sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    // A view in the place of a table could compute for ever.
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     const QString cache = QStringLiteral("PRAGMA cache_size=-%1").arg(kCacheKiB);
+    // Should this fail, the file is read with another cache, or not read at all below.
     sqlite3_exec(handle, cache.toUtf8().constData(), nullptr, nullptr, nullptr);
     // The file is not looked at before the first query.
     auto schema = database.prepare(QStringLiteral("SELECT count(*) FROM sqlite_master"));

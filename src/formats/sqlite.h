@@ -30,18 +30,18 @@ public:
     Statement() = default;
     explicit Statement(sqlite3_stmt* statement) : m_statement(statement) {}
 
-    /// Parameters count from 1.
+    /// Sets a parameter; they count from 1. Goes back to before the first row.
     Statement& bind(int parameter, qint64 value);
     Statement& bind(int parameter, const QString& value);
 
-    /// Moves to the next row; false at the end and on an error.
+    /// Moves to the next row; false at the end and on an error, and from then on.
     bool next();
     /// Back to before the first row, with the parameters kept.
     void reset();
-    /// Whether the last `next` ended in an error.
-    bool failed() const { return m_failed; }
-    /// What SQLite said of it.
-    QString errorText() const;
+    /// Whether the rows ended in an error, or a parameter was refused, and no `reset` came since.
+    bool failed() const { return m_state == State::Failed || m_state == State::Refused; }
+    /// What SQLite said of it; empty where nothing failed.
+    const QString& errorText() const { return m_errorText; }
 
     // Values of the current row; columns count from 0. NULL reads as 0 or empty. Views hold until
     // the next `next` or `reset`.
@@ -57,8 +57,14 @@ public:
     sqlite3_stmt* handle() const { return m_statement.get(); }
 
 private:
+    enum class State { Rows, Ended, Failed, Refused };
+
+    void beginToBind();
+    void take(State failure, int code);
+
     std::unique_ptr<sqlite3_stmt, FinalizeStatement> m_statement;
-    bool m_failed = false;
+    State m_state = State::Rows;
+    QString m_errorText;
 };
 
 /// How a database of a backup is opened.
@@ -67,7 +73,8 @@ enum class OpenMode {
     Replay,    ///< a private copy whose write-ahead log is to be taken in
 };
 
-/// A SQLite database of a backup. Its schema is not trusted: no function of it runs by itself.
+/// A SQLite database of a backup. Its schema is not trusted: no function of it runs by itself, and
+/// its views and triggers are out of use.
 class Database {
 public:
     /// The error names `path`.
