@@ -16,12 +16,12 @@ void CSubProgress::initRange(int range)
 bool CSubProgress::step(double amount)
 {
     const double units = m_range > 0 ? amount / m_range * m_share : 0.0;
-    return advance(std::min(units, unitsLeft()));
+    return advance(std::min(units, m_share - m_passedOn));
 }
 
 bool CSubProgress::finish()
 {
-    return advance(unitsLeft());
+    return advance(m_share - m_passedOn);
 }
 
 void CSubProgress::setAttachStage(bool attachStage)
@@ -29,12 +29,6 @@ void CSubProgress::setAttachStage(bool attachStage)
     if (m_parent != nullptr) {
         m_parent->setAttachStage(attachStage);
     }
-}
-
-// Sums of fractions end a hair beside the share; a poll must not move backwards for that.
-double CSubProgress::unitsLeft() const
-{
-    return std::max(0.0, m_share - m_passedOn);
 }
 
 bool CSubProgress::advance(double parentUnits)

@@ -21,7 +21,6 @@ public:
     void setAttachStage(bool attachStage) override;
 
 private:
-    double unitsLeft() const;
     bool advance(double parentUnits);
 
     CIProgressCallback* m_parent;
