@@ -19,16 +19,15 @@ struct CancelRow {
 class Cancel : public DriverTest {
 protected:
     // Cancels at the first step, at the second, ... until the run is complete.
-    void expectRows(
-        const PRBackup& backup, const QVector<int>& types, const std::vector<CancelRow>& rows)
+    void expectRows(PRBackup& backup, const QVector<int>& types, const std::vector<CancelRow>& rows)
     {
         int cancelAt = 0;
         for (const CancelRow& row : rows) {
             SCOPED_TRACE(++cancelAt);
             QDir(root().filePath("Messages")).removeRecursively();
             RecordingProgress progress(cancelAt);
-            EXPECT_TRUE(CBackupExporter().exportBackup(
-                const_cast<PRBackup*>(&backup), root(), &progress, types, false, "Anna"));
+            EXPECT_TRUE(
+                CBackupExporter().exportBackup(&backup, root(), &progress, types, false, "Anna"));
             EXPECT_EQ(progress.calls().join(", ").toStdString(),
                 QString(row.calls).remove('*').toStdString());
             EXPECT_EQ(csvRows(), row.csvRows);

@@ -7,8 +7,10 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QPointer>
-#include <QTimer>
+#include <QTimerEvent>
 
+#include <functional>
+#include <memory>
 #include <type_traits>
 
 namespace {
@@ -19,11 +21,24 @@ using access_to::exportContactForTavero;
 using access_to::fromDFU;
 using access_to::stopLoop;
 
-// A loop that deletes itself when it is told to, as the exporter's own does.
-QPointer<QEventLoop> makeLoop()
-{
-    return std::make_unique<QEventLoop>().release();
-}
+// Acts once, when the event loop next comes round after `afterMs`.
+class Alarm final : public QObject {
+public:
+    Alarm(int afterMs, std::function<void()> action) : m_action(std::move(action))
+    {
+        startTimer(afterMs);
+    }
+
+protected:
+    void timerEvent(QTimerEvent* event) override
+    {
+        killTimer(event->timerId());
+        m_action();
+    }
+
+private:
+    std::function<void()> m_action;
+};
 
 void deletePosted()
 {
@@ -91,33 +106,35 @@ TEST(ExporterState, BothWaysToStopQuitTheLoopAndLetItGo)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         CBackupExporter exporter;
-        const QPointer<QEventLoop> loop = makeLoop();
-        exporter.*eventLoop() = loop;
+        auto loop = std::make_unique<QEventLoop>();
+        const QPointer<QEventLoop> watched(loop.get());
+        exporter.*eventLoop() = loop.get();
+        const Alarm stop(0, [&] { row.stop(exporter); });
         bool hung = false;
-        QTimer::singleShot(0, loop.data(), [&] { row.stop(exporter); });
-        QTimer::singleShot(10'000, loop.data(), [&] {
+        const Alarm guard(10'000, [&] {
             hung = true;
             loop->exit();
         });
         loop->exec();
         EXPECT_FALSE(hung) << "the loop was not quit";
         EXPECT_EQ(exporter.*eventLoop(), nullptr);
+        QEventLoop* released = loop.release();
         deletePosted();
-        EXPECT_TRUE(loop.isNull()) << "the loop was not deleted";
+        EXPECT_TRUE(watched.isNull()) << "the loop was not deleted: " << released;
         row.stop(exporter); // without a loop
     }
 }
 
 TEST(ExporterState, TheEndOfAnExporterLeavesTheLoopAlone)
 {
-    const QPointer<QEventLoop> loop = makeLoop();
+    const auto loop = std::make_unique<QEventLoop>();
+    const QPointer<QEventLoop> watched(loop.get());
     {
         CBackupExporter exporter;
-        exporter.*eventLoop() = loop;
+        exporter.*eventLoop() = loop.get();
     }
     deletePosted();
-    ASSERT_FALSE(loop.isNull());
-    const std::unique_ptr<QEventLoop> owned(loop.data());
+    EXPECT_FALSE(watched.isNull());
 }
 
 CBackupExporter withAllSet(QEventLoop& loop)

@@ -15,6 +15,7 @@ std::unique_ptr<PRAbstractItem> chatOf(
     const std::vector<ChatMessage>& messages, int flags = 0, bool selected = true)
 {
     std::vector<PRWhatsappMsg> made;
+    made.reserve(messages.size());
     for (const ChatMessage& message : messages) {
         made.emplace_back(message);
     }

@@ -15,7 +15,7 @@
 /// A directory to export into, and small sets to export.
 class DriverTest : public testing::Test {
 protected:
-    QDir root() const { return QDir(m_directory.path()); }
+    QDir root() const { return {m_directory.path()}; }
 
     /// All files and directories beneath the root, sorted; directories end in "/".
     QStringList tree() const

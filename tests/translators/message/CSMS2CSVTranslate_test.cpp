@@ -154,7 +154,7 @@ TEST(SmsCsv, EmptyCellsKeepTheirQuotes)
 TEST(SmsCsv, TypeAsksForCompleteSendingFirst)
 {
     struct {
-        const char* what;
+        const char* what = "";
         bool fromMe;
         bool sentDone;
         const char* type;
@@ -187,9 +187,9 @@ TEST(SmsCsv, ContentJoinsWhatIsThereByOneBlank)
     const PRSMSPiece text = textPiece("piece");
     const PRSMSPiece other = textPiece("other");
     struct {
-        const char* what;
+        const char* what = "";
         SmsMessage message;
-        const char* content;
+        const char* content = nullptr;
     } const rows[] = {
         {"content alone", {.content = "body"}, "body"},
         {"subject alone", {.subject = "subject"}, "subject"},
@@ -212,9 +212,9 @@ TEST(SmsCsv, ContentJoinsWhatIsThereByOneBlank)
 TEST(SmsCsv, PieceCountsWhenItsTypeHoldsTextAndItIsNoLocation)
 {
     struct {
-        const char* what;
+        const char* what = "";
         SmsPiece piece;
-        const char* content;
+        const char* content = nullptr;
     } const rows[] = {
         {"plain", {.type = "text/plain", .data = "a"}, "a"},
         {"card", {.type = "text/vcard", .data = "a"}, "a"},
@@ -266,7 +266,7 @@ TEST(SmsCsv, MessageWithoutTextHasNoRow)
 {
     const PRSMSPiece picture({.type = "image/png", .data = "bytes"});
     struct {
-        const char* what;
+        const char* what = "";
         SmsMessage message;
     } const rows[] = {
         {"nothing", {}},
