@@ -130,9 +130,13 @@ void AttachmentData::read() const
         };
         add(attachment, record, isoDate(query->integer(CreatedDate)));
     }
-    if (neverDownloaded > 0) {
-        m_notices.add(QCoreApplication::translate("DataExport",
-            "%n attachment(s) were never downloaded to the phone.", nullptr, neverDownloaded));
+    if (neverDownloaded == 1) {
+        m_notices.add(QCoreApplication::translate(
+            "DataExport", "One attachment was never downloaded to the phone."));
+    } else if (neverDownloaded > 1) {
+        m_notices.add(QCoreApplication::translate(
+            "DataExport", "%1 attachments were never downloaded to the phone.")
+                          .arg(neverDownloaded));
     }
 }
 

@@ -9,6 +9,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <set>
 
 namespace backup {
 
@@ -179,6 +180,7 @@ ConversationRows ConversationRowsCache::walkIndex(const Conversation& conversati
     ConversationRows found;
     auto query = m_database.prepare(m_table.select(
         "chat_message_join j JOIN message m ON m.ROWID = j.message_id WHERE j.chat_id = ?"_L1));
+    bool failed = !query;
     for (const std::int64_t chatId : conversation.chatIds) {
         if (query) {
             query->reset();
@@ -187,9 +189,34 @@ ConversationRows ConversationRowsCache::walkIndex(const Conversation& conversati
                 MessageTable::append(*query, found);
             }
             noteFailure(*query);
+            failed = failed || query->failed();
         }
     }
-    return found;
+    // A message in two chats of the conversation is there once.
+    const auto byId = [](const MessageRow& row) { return row.id; };
+    std::ranges::sort(found.rows, {}, byId);
+    const auto repeated = std::ranges::unique(found.rows, {}, byId);
+    found.rows.erase(repeated.begin(), repeated.end());
+    return failed ? readMessages(idsOf(conversation)) : found;
+}
+
+// One by one where a damaged page has ended the walk: the others can still be read.
+std::vector<std::int64_t> ConversationRowsCache::idsOf(const Conversation& conversation)
+{
+    std::set<std::int64_t> ids;
+    auto query =
+        m_database.prepare("SELECT message_id FROM chat_message_join WHERE chat_id = ?"_L1);
+    for (const std::int64_t chatId : conversation.chatIds) {
+        if (query) {
+            query->reset();
+            query->bind(1, chatId);
+            while (query->next()) {
+                ids.insert(query->integer(0));
+            }
+            noteFailure(*query);
+        }
+    }
+    return {ids.begin(), ids.end()};
 }
 
 ConversationRows ConversationRowsCache::readMessages(const std::vector<std::int64_t>& messageIds)

@@ -59,6 +59,7 @@ public:
 private:
     ConversationRows fetch(std::size_t index);
     ConversationRows walkIndex(const Conversation& conversation);
+    std::vector<std::int64_t> idsOf(const Conversation& conversation);
     ConversationRows readMessages(const std::vector<std::int64_t>& messageIds);
     bool worthAScan(std::size_t index);
     void scanFrom(std::size_t index);

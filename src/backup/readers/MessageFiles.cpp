@@ -81,7 +81,9 @@ QString typeOf(const std::array<TypeRow, kSize>& table, const QString& key)
 QString readText(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(kLargestText)) : QString();
+    return !path.isEmpty() && file.open(QIODevice::ReadOnly)
+               ? QString::fromUtf8(file.read(kLargestText))
+               : QString();
 }
 
 // "52.5200, 13.4050" of a line "item1.URL;type=pref:http://maps.example/?ll=52.5200\,13.4050&q=…"

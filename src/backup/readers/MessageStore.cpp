@@ -42,8 +42,7 @@ MessageStore::~MessageStore() = default;
 bool MessageStore::isMessageStore(const formats::Database& database)
 {
     const QStringList tables = database.tables();
-    return tables.contains("message"_L1) && tables.contains("handle"_L1)
-           && tables.contains("chat"_L1);
+    return tables.contains("message"_L1) && tables.contains("handle"_L1);
 }
 
 const PRSMSChatGroup* MessageStore::load(std::size_t index)

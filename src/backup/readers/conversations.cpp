@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 
@@ -105,24 +106,26 @@ qint64 countOf(const formats::Database& database, QLatin1String table)
     return query && query->next() ? query->integer(0) : 0;
 }
 
-// Messages of no chat: ordinary up to iOS 8, later the trace of a broken synchronisation.
+// Messages of no chat, by sender: ordinary up to iOS 8, later the trace of a broken
+// synchronisation.
 MessagesByChat readOrphans(const formats::Database& database)
 {
-    const bool recoverable = database.hasTable("chat_recoverable_message_join"_L1);
-    const qint64 joined =
-        countOf(database, "chat_message_join"_L1)
-        + (recoverable ? countOf(database, "chat_recoverable_message_join"_L1) : 0);
+    static constexpr std::array kJoins{"chat_message_join"_L1, "chat_recoverable_message_join"_L1};
+    const QStringList tables = database.tables();
+    qint64 joined = 0;
+    QStringList inNoChat{"1"_L1};
+    for (const QLatin1String join : kJoins) {
+        if (tables.contains(join)) {
+            joined += countOf(database, join);
+            inNoChat.append(
+                "NOT EXISTS (SELECT 1 FROM "_L1 + join + " j WHERE j.message_id = m.ROWID)"_L1);
+        }
+    }
     if (joined == countOf(database, "message"_L1)) {
         return {}; // as a rule; looking at each message costs a second per four million
     }
-    QString sql = "SELECT m.handle_id, m.ROWID FROM message m"
-                  " WHERE NOT EXISTS (SELECT 1 FROM chat_message_join j"
-                  " WHERE j.message_id = m.ROWID)"_L1;
-    if (recoverable) {
-        sql += " AND NOT EXISTS (SELECT 1 FROM chat_recoverable_message_join r"
-               " WHERE r.message_id = m.ROWID)"_L1;
-    }
-    return readPairs(database, sql); // by handle in this case
+    return readPairs(database,
+        "SELECT m.handle_id, m.ROWID FROM message m WHERE "_L1 + inNoChat.join(" AND "_L1));
 }
 
 std::int64_t newestOf(

@@ -11,6 +11,8 @@ namespace backup {
 
 namespace {
 
+constexpr QLatin1String kMessages = "Library/SMS/sms.db"_L1;
+
 QString tr(const char* text)
 {
     return QCoreApplication::translate("DataExport", text);
@@ -59,8 +61,13 @@ formats::Result<OpenedBackup> openBackupFolder(const QString& path)
             openOrNote(device, "Library/AddressBook/AddressBook.sqlitedb"_L1, *opened.notices)) {
         names = SenderNames(addressBook->database);
     }
-    if (auto messages = openOrNote(device, "Library/SMS/sms.db"_L1, *opened.notices)) {
-        addMessages(opened, std::move(*messages), names);
+    if (auto messages = openOrNote(device, kMessages, *opened.notices)) {
+        if (MessageStore::isMessageStore(messages->database)) {
+            addMessages(opened, std::move(*messages), names);
+        } else {
+            opened.notices->add(
+                tr("%1 of the backup is no store of messages that can be read.").arg(kMessages));
+        }
     }
     return opened;
 }
