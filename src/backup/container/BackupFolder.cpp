@@ -176,7 +176,7 @@ QString BackupFolder::payloadPath(const ManifestEntry& entry) const
         return {};
     }
     const QDir folder(m_path);
-    const QString nested = folder.filePath(storedName(entry));
+    QString nested = folder.filePath(storedName(entry));
     // A link in place of a payload could lead anywhere on this computer.
     if (isPlainFile(nested) && !QFileInfo(folder.filePath(entry.fileId.left(2))).isSymLink()) {
         return nested;

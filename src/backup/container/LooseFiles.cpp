@@ -30,21 +30,28 @@ bool liesBelow(const QDir& directory, const QString& path)
                root.endsWith(QLatin1Char('/')) ? root : root + QLatin1Char('/'));
 }
 
-// The first tail of `path` below the directory that is accepted, as a path on this computer.
-template <typename Accepts>
-QString firstTail(const QDir& directory, const QString& path, Accepts accepts)
+// The names under which the device's path may lie below a directory, the likeliest first.
+QStringList candidatesFor(const QString& path)
 {
-    if (!isSafeRelativePath(path)) {
-        return {};
+    QStringList candidates;
+    if (isSafeRelativePath(path)) {
+        const QStringList tails = tailsOf(path);
+        for (const QString& tail : tails) {
+            candidates += unicodeForms(tail);
+        }
     }
-    const QStringList tails = tailsOf(path);
-    for (const QString& tail : tails) {
-        const QStringList forms = unicodeForms(tail);
-        for (const QString& form : forms) {
-            QString candidate = directory.filePath(form);
-            if (accepts(QFileInfo(candidate)) && liesBelow(directory, candidate)) {
-                return candidate;
-            }
+    return candidates;
+}
+
+// The first candidate that is accepted, as a path on this computer.
+template <typename Accepts>
+QString firstCandidate(const QDir& directory, const QString& path, Accepts accepts)
+{
+    const QStringList candidates = candidatesFor(path);
+    for (const QString& candidate : candidates) {
+        QString found = directory.filePath(candidate);
+        if (accepts(QFileInfo(found)) && liesBelow(directory, found)) {
+            return found;
         }
     }
     return {};
@@ -67,7 +74,7 @@ QStringList plainFilesBelow(const QString& folder)
 
 QString LooseFiles::locate(const QString& /*domain*/, const QString& relativePath) const
 {
-    return firstTail(
+    return firstCandidate(
         m_directory, relativePath, [](const QFileInfo& file) { return file.isFile(); });
 }
 
@@ -75,7 +82,7 @@ QStringList LooseFiles::filesBelow(const QString& /*domain*/, const QString& dir
 {
     const QString shown = withoutTrailingSlashes(directory);
     const QString folder =
-        firstTail(m_directory, shown, [](const QFileInfo& file) { return file.isDir(); });
+        firstCandidate(m_directory, shown, [](const QFileInfo& file) { return file.isDir(); });
     QStringList paths;
     if (!folder.isEmpty()) {
         paths = plainFilesBelow(folder);

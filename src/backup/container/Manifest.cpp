@@ -10,6 +10,7 @@
 #include "backup/container/Notices.h"
 #include "backup/container/manifest_path.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace backup {
@@ -57,6 +58,44 @@ bool hasUsablePath(const ManifestEntry& entry)
            || (entry.relativePath.isEmpty() && entry.flags == ManifestEntry::Directory);
 }
 
+// Tells the notices of a row that cannot be used.
+bool isUsable(const ManifestEntry& entry, Notices& notices)
+{
+    if (!hasUsablePath(entry)) {
+        notices.addOneOfMany(
+            QStringLiteral("%1: the manifest gives a path that is not used, it could lead out of a "
+                           "folder")
+                .arg(shownName(entry)),
+            QStringLiteral("%1 more paths of the manifest are not used, they could lead out of a "
+                           "folder"));
+        return false;
+    }
+    if (!isFileId(entry.fileId)) {
+        notices.addOneOfMany(
+            QStringLiteral("%1: the manifest gives it a file name that is none (\"%2\")")
+                .arg(shownName(entry), entry.fileId),
+            QStringLiteral("%1 more files have a file name in the manifest that is none"));
+        return false;
+    }
+    return true;
+}
+
+// Empty where the table is a manifest's.
+QString whyNoManifest(const QStringList& columns)
+{
+    if (columns.isEmpty()) {
+        return QStringLiteral("this is no manifest of a backup: it has no table Files");
+    }
+    const QStringList needed = {QStringLiteral("fileID"), QStringLiteral("domain"),
+        QStringLiteral("relativePath"), QStringLiteral("flags")};
+    const auto absent = std::ranges::find_if(
+        needed, [&columns](const QString& column) { return !columns.contains(column); });
+    return absent == needed.end()
+               ? QString()
+               : QStringLiteral("this is no manifest of a backup: its table Files has no column %1")
+                     .arg(*absent);
+}
+
 } // namespace
 
 Manifest::Manifest(OpenedDatabase database, Queries queries, QString path, Notices& notices)
@@ -71,18 +110,9 @@ Result<Manifest> Manifest::open(const QString& path, Notices& notices)
     if (!opened) {
         return opened.error();
     }
-    const QStringList columns = opened->database.columns(QStringLiteral("Files"));
-    if (columns.isEmpty()) {
-        return Error{.where = path,
-            .what = QStringLiteral("this is no manifest of a backup: it has no table Files")};
-    }
-    for (const char* column : {"fileID", "domain", "relativePath", "flags"}) {
-        if (!columns.contains(QLatin1String(column))) {
-            return Error{.where = path,
-                .what = QStringLiteral(
-                    "this is no manifest of a backup: its table Files has no column %1")
-                            .arg(QLatin1String(column))};
-        }
+    const QString reason = whyNoManifest(opened->database.columns(QStringLiteral("Files")));
+    if (!reason.isEmpty()) {
+        return Error{.where = path, .what = reason};
     }
     auto queries = prepareQueries(opened->database);
     if (!queries) {
@@ -158,19 +188,7 @@ std::optional<ManifestEntry> Manifest::nextEntry(Statement& query)
             .domain = query.text(1),
             .relativePath = query.text(2),
             .flags = static_cast<int>(query.integer(3))};
-        if (!hasUsablePath(entry)) {
-            m_notices->addOneOfMany(
-                QStringLiteral("%1: the manifest gives a path that is not used, it could lead out "
-                               "of a folder")
-                    .arg(shownName(entry)),
-                QStringLiteral("%1 more paths of the manifest are not used, they could lead out of "
-                               "a folder"));
-        } else if (!isFileId(entry.fileId)) {
-            m_notices->addOneOfMany(
-                QStringLiteral("%1: the manifest gives it a file name that is none (\"%2\")")
-                    .arg(shownName(entry), entry.fileId),
-                QStringLiteral("%1 more files have a file name in the manifest that is none"));
-        } else {
+        if (isUsable(entry, *m_notices)) {
             return entry;
         }
     }
