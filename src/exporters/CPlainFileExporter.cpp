@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 
+// NOLINTNEXTLINE(modernize-pass-by-value): the signature is agreed
 CPlainFileExporter::CPlainFileExporter(const QString& extension, bool oneFilePerItem)
     : m_dir(QDir(QString())), m_extension(extension), m_oneFilePerItem(oneFilePerItem)
 {

@@ -84,11 +84,10 @@ QString PRData::value(int row, int column) const
 QString PRData::onDowmloadThumbnail(OvCurlWrapper& curl, const QString& url, QString suffix)
 {
     static const QTemporaryDir directory(QDir::tempPath() + "/dataexport-XXXXXX"_L1);
-    QString name = QUuid::createUuid().toString(QUuid::WithoutBraces);
     if (!suffix.isEmpty()) {
-        name += "."_L1 + suffix;
+        suffix.prepend("."_L1);
     }
-    QString path = directory.filePath(name);
+    QString path = directory.filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + suffix);
     curl.download(url, path, true); // the caller asks whether the file exists
     return path;
 }

@@ -15,13 +15,14 @@ namespace {
 QString defaultRoot()
 {
     Dl_info place = {};
-    if (dladdr(reinterpret_cast<const void*>(&defaultRoot), &place) != 0) {
-        QDir directory = QFileInfo(QString::fromLocal8Bit(place.dli_fname)).absoluteDir();
-        while (directory.cdUp()) {
-            const QString installed = directory.filePath("share/dataexport"_L1);
-            if (QDir(installed).exists("DataExport"_L1)) {
-                return installed;
-            }
+    if (dladdr(reinterpret_cast<const void*>(&defaultRoot), &place) == 0) {
+        return QStringLiteral(DATAEXPORT_RESOURCE_ROOT);
+    }
+    QDir directory = QFileInfo(QString::fromLocal8Bit(place.dli_fname)).absoluteDir();
+    while (directory.cdUp()) {
+        QString installed = directory.filePath("share/dataexport"_L1);
+        if (QDir(installed).exists("DataExport"_L1)) {
+            return installed;
         }
     }
     return QStringLiteral(DATAEXPORT_RESOURCE_ROOT);
