@@ -12,6 +12,12 @@ const QString& PRSMSPiece::pieceLocation() const
     return m_piece.path;
 }
 
+const SmsPiece& PRSMSPiece::contents() const
+{
+    pieceLocation(); // looks the path up
+    return m_piece;
+}
+
 PRSMSChat::PRSMSChat(SmsMessage message) : m_message(std::move(message))
 {
     m_pieces.reserve(static_cast<int>(m_message.pieces.size()));

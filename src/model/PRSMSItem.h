@@ -45,7 +45,8 @@ public:
     const QString& pieceLocation() const;
     const QString& piecePreviewFile() const { return m_piece.preview; }
     const QString& pieceInfo() const { return m_piece.info; }
-    const SmsPiece& contents() const { return m_piece; }
+    /// All of it, with the path looked up.
+    const SmsPiece& contents() const;
 
 private:
     mutable SmsPiece m_piece;

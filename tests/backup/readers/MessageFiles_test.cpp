@@ -101,6 +101,15 @@ TEST_F(MessageFilesTest, PieceHasTypeNameAndFile)
     EXPECT_FALSE(piece.isLocation());
 }
 
+TEST_F(MessageFilesTest, ContentsOfAPieceHaveThePathOnThisComputer)
+{
+    m_builder->attachment(message(), {{"filename", "~/Library/SMS/Attachments/a/b/X/1.jpg"}});
+    file("Library/SMS/Attachments/a/b/X/1.jpg", "picture");
+    open();
+    EXPECT_EQ(pieces(0).first()->contents().path,
+        m_directory.filePath("Library/SMS/Attachments/a/b/X/1.jpg"));
+}
+
 TEST_F(MessageFilesTest, FileThatIsNotThereLeavesNameAndType)
 {
     m_builder->attachment(message(), {{"filename", "~/Library/SMS/Attachments/a/b/X/lost.mov"}});
