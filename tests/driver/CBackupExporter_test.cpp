@@ -244,7 +244,7 @@ TEST_F(BackupExporter, ASelectionThatWasEmptyWhenCountedIsNotLookedAtAgain)
 
 TEST_F(BackupExporter, TheShorterFormWantsAllTypes)
 {
-    const auto run = [this](const std::function<bool(PRBackup*, CIProgressCallback*)>& exportTo) {
+    const auto run = [](const std::function<bool(PRBackup*, CIProgressCallback*)>& exportTo) {
         PRBackup backup;
         for (int type = 1; type < 36; ++type) {
             backup.add(plainSet(type, type));
