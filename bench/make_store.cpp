@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Makes a large store of messages in the schema of a phone, the same bytes for the same parameters:
 //
-//   make_store MESSAGES CONVERSATIONS SEED SCHEMA.sql OUT.db
+//   make_store MESSAGES CONVERSATIONS SEED --store OUT.db
+//   make_store MESSAGES CONVERSATIONS SEED --backup OUT_DIRECTORY
 //   make_store MESSAGES CONVERSATIONS SEED --record-set OUT.json
 //
 // A tenth of all messages lie in the largest conversation; the others share the rest so that a few
@@ -15,6 +16,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iostream>
@@ -362,14 +364,42 @@ std::string readFile(const std::string& path)
     return text.str();
 }
 
-void makeDatabase(const Parameters& parameters, const std::string& schema, const std::string& path)
+void makeDatabase(const Parameters& parameters, const std::string& path)
 {
     Store store(path);
-    store.run(readFile(schema));
+    store.run(readFile(DATAEXPORT_SCHEMAS "/sms.sql"));
     store.run("BEGIN");
     fillPeople(store, parameters);
     fillMessages(store, parameters);
     store.run("COMMIT");
+}
+
+void writeFile(const std::string& path, const std::string& text)
+{
+    std::ofstream out(path);
+    out << text;
+    if (!out) {
+        fail(path + ": cannot be written");
+    }
+}
+
+// A backup folder that holds the store and nothing else.
+void makeBackup(const Parameters& parameters, const std::string& directory)
+{
+    // SHA-1 of "HomeDomain-Library/SMS/sms.db"
+    const std::string fileId = "3d0d7e5fb2ce288813306e4d4636395e047a3d28";
+    const std::string head = R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict>)";
+    const std::string tail = "</dict></plist>\n";
+    std::filesystem::create_directories(directory + "/3d");
+    makeDatabase(parameters, directory + "/3d/" + fileId);
+    Store manifest(directory + "/Manifest.db");
+    manifest.run(readFile(DATAEXPORT_SCHEMAS "/Manifest.sql"));
+    manifest.run("INSERT INTO Files (fileID, domain, relativePath, flags) VALUES ('" + fileId
+                 + "', 'HomeDomain', 'Library/SMS/sms.db', 1)");
+    writeFile(directory + "/Manifest.plist", head + "<key>IsEncrypted</key><false/>" + tail);
+    writeFile(directory + "/Info.plist", head + "<key>Device Name</key><string>Bench</string>"
+                                             + "<key>Product Version</key><string>17.5.1</string>"
+                                             + tail);
 }
 
 // The words need no escapes in JSON.
@@ -411,7 +441,7 @@ int main(int argc, char** argv)
 {
     const std::span<char*> arguments(argv, static_cast<std::size_t>(argc));
     if (arguments.size() != 6) {
-        fail("usage: make_store MESSAGES CONVERSATIONS SEED SCHEMA.sql|--record-set OUT");
+        fail("usage: make_store MESSAGES CONVERSATIONS SEED --store|--backup|--record-set OUT");
     }
     const Parameters parameters{
         .messages = std::atoll(arguments[1]),
@@ -424,8 +454,12 @@ int main(int argc, char** argv)
     const std::string form = arguments[4];
     if (form == "--record-set") {
         makeRecordSet(parameters, arguments[5]);
+    } else if (form == "--backup") {
+        makeBackup(parameters, arguments[5]);
+    } else if (form == "--store") {
+        makeDatabase(parameters, arguments[5]);
     } else {
-        makeDatabase(parameters, form, arguments[5]);
+        fail("there is no form " + form);
     }
     return 0;
 }
