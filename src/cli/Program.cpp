@@ -91,7 +91,7 @@ std::optional<int> parse(CLI::App& program, std::vector<std::string> arguments, 
 
 } // namespace
 
-int runProgram(std::vector<std::string> arguments, Console& console)
+int runProgram(const std::vector<std::string>& arguments, Console& console)
 {
     CLI::App program(
         "Turns the backup of an iPhone into files that people can read.", "dataexport");

@@ -7,4 +7,4 @@
 class Console;
 
 /// The whole program. `arguments` without its name; returns one of `ExitStatus`.
-int runProgram(std::vector<std::string> arguments, Console& console);
+int runProgram(const std::vector<std::string>& arguments, Console& console);

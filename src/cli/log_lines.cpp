@@ -12,7 +12,9 @@ namespace {
 
 Console*& target()
 {
-    static Console* console = nullptr; // a message handler has no other way to know
+    // A message handler has no other way to know.
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): see above
+    static Console* console = nullptr;
     return console;
 }
 

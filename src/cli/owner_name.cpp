@@ -40,7 +40,7 @@ QString cleanedOwner(const QString& name)
 QString defaultOwner(const QStringList& names)
 {
     for (const QString& name : names) {
-        const QString owner = cleanedOwner(name);
+        QString owner = cleanedOwner(name);
         if (!owner.isEmpty()) {
             return owner;
         }
