@@ -26,6 +26,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace {
@@ -390,7 +391,10 @@ void makeBackup(const Parameters& parameters, const std::string& directory)
     const std::string fileId = "3d0d7e5fb2ce288813306e4d4636395e047a3d28";
     const std::string head = R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0"><dict>)";
     const std::string tail = "</dict></plist>\n";
-    std::filesystem::create_directories(directory + "/3d");
+    std::error_code error;
+    if (!std::filesystem::create_directories(directory + "/3d", error)) {
+        fail(directory + ": cannot be made, or is there already");
+    }
     makeDatabase(parameters, directory + "/3d/" + fileId);
     Store manifest(directory + "/Manifest.db");
     manifest.run(readFile(DATAEXPORT_SCHEMAS "/Manifest.sql"));
