@@ -40,7 +40,7 @@ public:
 
 private:
     struct Level {
-        bool lines; // each member on its own line
+        bool lines = false; // each member on its own line
         bool empty = true;
     };
 

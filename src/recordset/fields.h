@@ -3,6 +3,7 @@
 
 #include "recordset/forms.h"
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <string_view>
@@ -65,13 +66,10 @@ template <const auto& fields> inline constexpr auto kKeysOf = namesOf<fields>();
 /// Reads what `object` has of these fields, in the order of the table; the rest stays as it is.
 template <const auto& fields> bool readMembers(const Source& object, OwnerOf<fields>& owner)
 {
-    for (const auto& field : fields) {
+    return std::ranges::all_of(fields, [&object, &owner](const auto& field) {
         const Json* value = object.find(field.key);
-        if (value != nullptr && !field.read(object.member(*value, field.key), owner)) {
-            return false;
-        }
-    }
-    return true;
+        return value == nullptr || field.read(object.member(*value, field.key), owner);
+    });
 }
 
 /// Reads an object that has no other keys than these.
@@ -105,12 +103,8 @@ template <const auto& fields> struct Object {
     /// The other one is the default.
     static bool same(const Value& value, const Value& /*defaults*/)
     {
-        for (const auto& field : fields) {
-            if (!field.isDefault(value)) {
-                return false;
-            }
-        }
-        return true;
+        return std::ranges::all_of(
+            fields, [&value](const auto& field) { return field.isDefault(value); });
     }
     static void write(const Value& value, JsonText& out)
     {

@@ -62,7 +62,7 @@ struct Parent : forms::Comparable<std::optional<QString>> {
         }
         const QString name = textFrom(source.json().get_ref<const std::string&>());
         if (!isParentName(name)) {
-            return source.expected("a name other than \".\" and \"..\""_L1);
+            return source.expected(R"(a name other than "." and "..")"_L1);
         }
         parent = name;
         return true;

@@ -362,7 +362,7 @@ std::vector<Group> groups()
 
 QByteArray recordWith(const Group& group, const QByteArray& member)
 {
-    QByteArray record = QByteArray("{\"kind\": \"") + group.kind + '"';
+    QByteArray record = QByteArray(R"({"kind": ")") + group.kind + '"';
     const QByteArray rest = group.open + member + group.close;
     if (!rest.isEmpty()) {
         record += ", " + rest;

@@ -144,7 +144,7 @@ TEST(BytesForm, HasItsErrors)
             {"base64 with a foreign character", setOf(4, R"({"data": {"base64": "AP8N*ho="}})"),
                 "/data/base64", "expected base64, found \"AP8N*ho=\""},
             {"base64 with a line break", setOf(4, R"({"data": {"base64": "AP8N\nCho="}})"),
-                "/data/base64", "expected base64, found \"AP8N\\nCho=\""},
+                "/data/base64", R"(expected base64, found "AP8N\nCho=")"},
             {"base64 that is cut off", setOf(4, R"({"data": {"base64": "AP8NC"}})"), "/data/base64",
                 "expected base64, found \"AP8NC\""},
             {"base64 with padding inside", setOf(4, R"({"data": {"base64": "YQ==YQ=="}})"),

@@ -131,9 +131,9 @@ TEST(LoadErrors, OfWhatEveryRecordHas)
             {"parent that is a number", setOf(3, R"({"parent": 1})"), ": /sets/0/records/0/parent",
                 "expected a string or null, found 1"},
             {"parent .", setOf(3, R"({"parent": "."})"), ": /sets/0/records/0/parent",
-                "expected a name other than \".\" and \"..\", found \".\""},
+                R"(expected a name other than "." and "..", found ".")"},
             {"parent ..", setOf(3, R"({"parent": ".."})"), ": /sets/0/records/0/parent",
-                "expected a name other than \".\" and \"..\", found \"..\""},
+                R"(expected a name other than "." and "..", found "..")"},
             {"key of another kind", setOf(3, R"({"chats": []})"), ": /sets/0/records/0/chats",
                 "unknown key, expected one of: kind, values, flags, selected, parent"},
         });

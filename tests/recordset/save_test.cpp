@@ -168,7 +168,7 @@ TEST(Save, ReplacesSurrogatesWithoutAPartnerAndKeepsKeysApart)
     saved(tree, backup, low);
     const auto loaded = recordset::load(tree.path("out.json"));
     ASSERT_TRUE(loaded.has_value()) << errorOf(loaded);
-    const QString replaced(QChar(QChar::ReplacementCharacter));
+    const QString replaced = QChar(QChar::ReplacementCharacter);
     EXPECT_EQ(loaded->owner, replaced);
     auto& item = dynamic_cast<PRSMSItem&>(*loaded->records.getPRData(0)->at(0, true));
     EXPECT_EQ(item.value(0), "a" + replaced);
