@@ -193,10 +193,9 @@ ConversationRows ConversationRowsCache::walkIndex(const Conversation& conversati
         }
     }
     // A message in two chats of the conversation is there once.
-    const auto byId = [](const MessageRow& row) { return row.id; };
-    std::ranges::sort(found.rows, {}, byId);
-    const auto repeated = std::ranges::unique(found.rows, {}, byId);
-    found.rows.erase(repeated.begin(), repeated.end());
+    std::ranges::sort(found.rows, {}, &MessageRow::id);
+    const auto sameId = [](const MessageRow& a, const MessageRow& b) { return a.id == b.id; };
+    found.rows.erase(std::unique(found.rows.begin(), found.rows.end(), sameId), found.rows.end());
     return failed ? readMessages(idsOf(conversation)) : found;
 }
 
