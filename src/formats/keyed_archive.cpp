@@ -76,7 +76,7 @@ private:
 
     struct KnownClass {
         QLatin1String name;
-        QVariant (Unarchiver::*value)(const Object& object);
+        QVariant (Unarchiver::*value)(const Object& object) = nullptr;
     };
     static const std::array<KnownClass, 10> kKnownClasses;
 

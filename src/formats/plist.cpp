@@ -34,6 +34,7 @@ struct FreePlist {
 using OwnedPlist = std::unique_ptr<void, FreePlist>;
 
 struct FreeMemory {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): libplist hands out what malloc gave
     void operator()(void* memory) const { std::free(memory); }
 };
 template <typename T> using OwnedMemory = std::unique_ptr<T, FreeMemory>;

@@ -28,7 +28,7 @@ constexpr std::size_t kFooterSize = 32;
 // What libplist holds for one object beside its contents, roughly.
 constexpr quint64 kNodeSize = 64;
 // A list grows beyond its file only by objects that are referred to several times.
-constexpr quint64 kMaxGrown = 64 * 1024 * 1024;
+constexpr quint64 kMaxGrown = 67'108'864;
 constexpr quint64 kMaxGrowth = 4;
 
 enum Kind : unsigned char {
@@ -55,6 +55,11 @@ QString damaged()
 QString tooDeep()
 {
     return QStringLiteral("the property list nests too deep");
+}
+
+QString growsTooMuch()
+{
+    return QStringLiteral("the property list repeats its objects too often");
 }
 
 class BinaryMeasure {
@@ -206,7 +211,7 @@ bool BinaryMeasure::measureReferences(const Object& object, Measured& sum, int d
         sum.height = std::max(sum.height, m_objects[*to].height + 1);
         sum.grown += m_objects[*to].grown;
         if (sum.grown > kMaxGrown + kMaxGrowth * m_size) {
-            m_fault = QStringLiteral("the property list repeats its objects too often");
+            m_fault = growsTooMuch();
             return false;
         }
     }

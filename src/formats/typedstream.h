@@ -31,8 +31,7 @@ struct AttributedText {
 /// text alone is given; an Error only where there is no text.
 Result<AttributedText> parseTypedstream(std::span<const unsigned char> bytes);
 
-/// The text alone, in UTF-8, as a view into `bytes`; nothing is built. Costs a hundredth of the
-/// whole. None where there is no text.
+/// The text alone, in UTF-8, as a view into `bytes`; nothing is built. None where there is no text.
 std::optional<std::string_view> typedstreamText(std::span<const unsigned char> bytes);
 
 } // namespace formats

@@ -179,14 +179,13 @@ std::optional<std::vector<TextRun>> runsOf(Values values, int textLength)
             return std::nullopt;
         }
         const auto wanted = static_cast<std::size_t>(*number);
-        if (wanted == attributes.size() + 1) {
-            const auto* dictionary = at<QVariant>(values, i++);
-            if (dictionary == nullptr) {
-                return std::nullopt;
-            }
+        const auto* dictionary = at<QVariant>(values, i);
+        if (dictionary != nullptr) {
             attributes.push_back(dictionary->toMap());
+            ++i;
         }
-        if (wanted > attributes.size()) {
+        const bool known = wanted <= attributes.size();
+        if (!known || (dictionary != nullptr && wanted != attributes.size())) {
             return std::nullopt;
         }
         const int fits = static_cast<int>(std::min<qint64>(*length, textLength - start));

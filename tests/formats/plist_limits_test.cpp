@@ -17,7 +17,7 @@ QByteArray nestedBinary(int depth, int times)
 {
     QList<QByteArray> objects;
     for (int i = 1; i < depth; ++i) {
-        QByteArray array = bigEndian(static_cast<quint64>(0xA0 + times), 1);
+        QByteArray array = bigEndian(quint64(0xA0) + static_cast<quint64>(times), 1);
         for (int time = 0; time < times; ++time) {
             array += bigEndian(static_cast<quint64>(i), 4);
         }

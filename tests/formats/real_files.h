@@ -9,7 +9,7 @@ inline QDir realFiles(const QString& folder)
 {
     const QString given = qEnvironmentVariable("DATAEXPORT_TEST_DATA");
     const QString root = given.isEmpty() ? DATAEXPORT_SOURCE_DIR "/../shared/data" : given;
-    return QDir(root + '/' + folder);
+    return {root + '/' + folder};
 }
 
 inline QByteArray contentsOf(const QString& path)

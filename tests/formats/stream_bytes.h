@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cctype>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,14 +13,10 @@ inline Bytes drawn(std::string_view picture)
     Bytes bytes;
     for (std::size_t at = 0; at < picture.size(); ++at) {
         if (picture[at] == '\'') {
-            const std::size_t end = picture.find('\'', at + 1);
-            if (end == std::string_view::npos) {
-                throw std::invalid_argument("a quote is not closed");
-            }
-            bytes.insert(bytes.end(), picture.begin() + static_cast<std::ptrdiff_t>(at) + 1,
-                picture.begin() + static_cast<std::ptrdiff_t>(end));
-            at = end;
-        } else if (std::isxdigit(static_cast<unsigned char>(picture[at])) != 0) {
+            const auto text = picture.substr(at + 1, picture.find('\'', at + 1) - at - 1);
+            bytes.insert(bytes.end(), text.begin(), text.end());
+            at += text.size() + 1;
+        } else if (picture[at] != ' ' && picture[at] != '\n') {
             const std::string pair(picture.substr(at, 2));
             bytes.push_back(static_cast<unsigned char>(std::stoi(pair, nullptr, 16)));
             ++at;

@@ -29,7 +29,7 @@ TEST(TypedstreamText, IsAViewIntoTheStream)
     EXPECT_LE(text->data() + text->size(), begin + sample.size());
 }
 
-TEST(TypedstreamText, WalksTheUsualClasses)
+TEST(TypedstreamText, PassesTheUsualClasses)
 {
     struct Row {
         const char* what;
