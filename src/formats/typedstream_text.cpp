@@ -16,7 +16,7 @@ namespace formats {
 
 namespace {
 
-using std::literals::operator""sv;
+using std::literals::operator""sv; // NOLINT(misc-unused-using-decls): it is used below
 
 // clang-format off
 constexpr std::array kOpenings{
