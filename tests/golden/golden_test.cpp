@@ -40,7 +40,23 @@ Options allTypes()
     return options;
 }
 
-// A key that is not known, or a value of another type, would be a case that tests something else.
+// False for a key that is not known or a value of another type: the case would test something else.
+bool setOption(Options& options, const QString& key, const QJsonValue& value)
+{
+    if (key == "owner" && value.isString()) {
+        options.owner = value.toString();
+        return true;
+    }
+    if (key == "only" && value.isArray()) {
+        const QJsonArray types = value.toArray();
+        options.only.clear();
+        std::transform(types.begin(), types.end(), std::back_inserter(options.only),
+            [](const QJsonValue& type) { return type.toInt(-1); });
+        return true;
+    }
+    return false;
+}
+
 Options readOptions(const QString& path)
 {
     Options options = allTypes();
@@ -53,16 +69,8 @@ Options readOptions(const QString& path)
     EXPECT_TRUE(document.isObject()) << path.toStdString();
     const QJsonObject object = document.object();
     for (auto entry = object.begin(); entry != object.end(); ++entry) {
-        if (entry.key() == "owner" && entry->isString()) {
-            options.owner = entry->toString();
-        } else if (entry.key() == "only" && entry->isArray()) {
-            const QJsonArray types = entry->toArray();
-            options.only.clear();
-            std::transform(types.begin(), types.end(), std::back_inserter(options.only),
-                [](const QJsonValue& type) { return type.toInt(-1); });
-        } else {
-            ADD_FAILURE() << path.toStdString() << ": " << entry.key().toStdString();
-        }
+        EXPECT_TRUE(setOption(options, entry.key(), entry.value()))
+            << path.toStdString() << ": " << entry.key().toStdString();
     }
     return options;
 }
@@ -111,6 +119,7 @@ std::vector<std::string> registeredCases()
         }
     }
     std::ranges::sort(names);
+#ifndef __clang_analyzer__ // it takes the factory that gtest keeps for a leak
     for (const std::string& name : names) {
         const QString directory = QString::fromStdString((cases / name).string());
         testing::RegisterTest("Golden", name.c_str(), nullptr, nullptr, __FILE__, __LINE__,
@@ -118,6 +127,7 @@ std::vector<std::string> registeredCases()
                 return std::make_unique<GoldenCase>(directory).release();
             });
     }
+#endif
     return names;
 }
 

@@ -80,11 +80,11 @@ Tree readTree(const QString& directory)
     while (entries.hasNext()) {
         const QString path = entries.next();
         const QString relative = root.relativeFilePath(path);
-        if (entries.fileInfo().isDir()) {
-            if (isEmptyDirectory(path)) {
-                tree.insert(relative + '/', {});
-            }
-        } else if (entries.fileName() != kKeep) {
+        const bool isDirectory = entries.fileInfo().isDir();
+        if (isDirectory && isEmptyDirectory(path)) {
+            tree.insert(relative + '/', {});
+        }
+        if (!isDirectory && entries.fileName() != kKeep) {
             tree.insert(relative, contentsOf(path));
         }
     }

@@ -155,9 +155,9 @@ TEST(SmsCsv, TypeAsksForCompleteSendingFirst)
 {
     struct {
         const char* what = "";
-        bool fromMe;
-        bool sentDone;
-        const char* type;
+        bool fromMe = false;
+        bool sentDone = true;
+        const char* type = "";
     } const rows[] = {
         {"received", false, true, "\"Received\""},
         {"sent", true, true, "\"Sent\""},
