@@ -58,7 +58,7 @@ formats::Result<QVector<int>> parseCategories(const QString& list)
         const std::optional<int> dataType = dataTypeOf(text.trimmed());
         if (!dataType) {
             return formats::Error{.where = {},
-                .what = "no category is called \""_L1 + text.trimmed() + "\"; there are:"_L1
+                .what = R"(no category is called ")"_L1 + text.trimmed() + R"("; there are:)"_L1
                         + allCategories()};
         }
         if (!dataTypes.contains(*dataType)) {

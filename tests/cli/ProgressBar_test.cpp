@@ -54,7 +54,7 @@ TEST(ProgressBarText, GuessesNothingInTheFirstSecond)
 TEST(ProgressBarText, ShowsHoursWhereThereAreAny)
 {
     ProgressState state = halfOfMessages();
-    state.elapsedMs = (3600 + 2 * 60 + 5) * 1000;
+    state.elapsedMs = 3'725'000; // an hour, two minutes, five seconds
     EXPECT_TRUE(progressBarText(state, 100).endsWith("1:02:05 left"));
 }
 

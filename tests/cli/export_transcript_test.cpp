@@ -111,7 +111,7 @@ TEST_F(ExportTranscript, TakesTheOwnerOfTheCommandLineAsItIs)
 
 TEST_F(ExportTranscript, CleansTheOwnerOfARecordSet)
 {
-    tree.write("odd.json", smallRecordSet().replace("\"Anna\"", R"("../A\u0007\\B")"));
+    tree.write("odd.json", smallRecordSet().replace(R"("Anna")", R"("../A\u0007\\B")"));
     EXPECT_EQ(run({"export", "odd.json", "out"}).status, AllDone);
     EXPECT_TRUE(tree.exists("out/Messages/.._A__B's Messages.csv"))
         << tree.list().join(", ").toStdString();
@@ -119,7 +119,7 @@ TEST_F(ExportTranscript, CleansTheOwnerOfARecordSet)
 
 TEST_F(ExportTranscript, CallsAnOwnerWithoutANameIPhone)
 {
-    tree.write("odd.json", smallRecordSet().replace("\"Anna\"", R"(" ")"));
+    tree.write("odd.json", smallRecordSet().replace(R"("Anna")", R"(" ")"));
     EXPECT_EQ(run({"export", "odd.json", "out"}).status, AllDone);
     EXPECT_TRUE(tree.exists("out/Messages/iPhone's Messages.csv"));
 }

@@ -150,7 +150,7 @@ TEST_F(Transcript, AnUnknownCategoryIsAnsweredWithAllOfThem)
 
 TEST_F(Transcript, AFileThatIsNoRecordSetIsToldByItsName)
 {
-    tree.write("odd.json", "{\"recordSet\": 1, \"oner\": \"Anna\"}");
+    tree.write("odd.json", R"({"recordSet": 1, "oner": "Anna"})");
     const std::array commands{QStringList{"list", "odd.json"},
         QStringList{"export", "odd.json", "out"}, QStringList{"dump", "odd.json", "out"}};
     for (const QStringList& command : commands) {

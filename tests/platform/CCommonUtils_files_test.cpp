@@ -19,7 +19,7 @@ namespace {
 QString takeName(const TempTree& tree, const QString& base, const QString& suffix)
 {
     const QString path = CCommonUtils::uniqFileName(tree.dir(), base, suffix);
-    const QString name = tree.dir().relativeFilePath(path);
+    QString name = tree.dir().relativeFilePath(path);
     tree.write(name, "x");
     return name;
 }

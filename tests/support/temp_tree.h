@@ -20,7 +20,7 @@ class TempTree {
 public:
     TempTree() { EXPECT_TRUE(m_directory.isValid()); }
 
-    QDir dir() const { return QDir(m_directory.path()); }
+    QDir dir() const { return {m_directory.path()}; }
     QString path(const QString& relative = {}) const
     {
         return relative.isEmpty() ? m_directory.path() : m_directory.filePath(relative);
@@ -29,7 +29,7 @@ public:
     /// Makes the file, and the directories on the way to it, and returns its full path.
     QString write(const QString& relative, const QByteArray& contents) const
     {
-        const QString target = path(relative);
+        QString target = path(relative);
         EXPECT_TRUE(QDir().mkpath(QFileInfo(target).path()));
         QFile file(target);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << target.toStdString();

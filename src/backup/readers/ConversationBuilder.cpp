@@ -381,7 +381,7 @@ private:
 
 ConversationBuilder::ConversationBuilder(
     const formats::Database& database, const Handles& handles, const FileLocator& files)
-    : m_database(database), m_handles(handles), m_files(database, files)
+    : m_handles(handles), m_files(database, files)
 {
     const auto prepare = [&](formats::Statement& statement, const QString& sql) {
         auto prepared = database.prepare(sql);

@@ -26,7 +26,6 @@ public:
 private:
     class Run; // the work on one conversation
 
-    const formats::Database& m_database;
     const Handles& m_handles;
     MessageFiles m_files;
     formats::Statement m_details;     // one message by its id
