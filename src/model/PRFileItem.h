@@ -27,6 +27,7 @@ public:
     virtual void setFilePath(const QString& path) { m_content.path = path; }
     QString thumbFilePath() const { return m_content.thumbFile; }
     QString thumbnail() const { return m_content.thumbnail; }
+    // NOLINTNEXTLINE(readability-make-member-function-const): not const in the contract
     bool isThumbToMedia() { return m_content.thumbToMedia; }
     QString getDetailInfoDateTime() const { return m_content.detailDate; }
     /// All but the path, which only `filePath` knows.

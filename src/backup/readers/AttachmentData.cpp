@@ -52,6 +52,37 @@ private:
     const PathResolver* m_resolver; // null: the path is one on this computer
 };
 
+/// Which conversation a file belongs to.
+class Owners {
+public:
+    explicit Owners(const std::vector<Conversation>& conversations)
+    {
+        for (const Conversation& conversation : conversations) {
+            for (const std::int64_t chatId : conversation.chatIds) {
+                m_byChat[chatId] = &conversation;
+            }
+            for (const std::int64_t messageId : conversation.messageIds) {
+                m_byMessage[messageId] = &conversation;
+            }
+        }
+    }
+
+    /// One without a name where the file belongs to none.
+    const Conversation& of(std::int64_t chatId, std::int64_t messageId) const
+    {
+        static const Conversation nobody;
+        if (const auto live = m_byChat.find(chatId); live != m_byChat.end()) {
+            return *live->second;
+        }
+        const auto other = m_byMessage.find(messageId);
+        return other != m_byMessage.end() ? *other->second : nobody;
+    }
+
+private:
+    std::unordered_map<std::int64_t, const Conversation*> m_byChat;
+    std::unordered_map<std::int64_t, const Conversation*> m_byMessage; // deleted, or in no chat
+};
+
 // A conversation's name as a directory's: a record's parent is never "." or "..".
 QString directoryName(const QString& title)
 {
@@ -86,16 +117,7 @@ const RecordList& AttachmentData::records() const
 
 void AttachmentData::read() const
 {
-    std::unordered_map<std::int64_t, const Conversation*> byChat;
-    std::unordered_map<std::int64_t, const Conversation*> byDeletedMessage;
-    for (const Conversation& conversation : m_conversations) {
-        for (const std::int64_t chatId : conversation.chatIds) {
-            byChat[chatId] = &conversation;
-        }
-        for (const std::int64_t messageId : conversation.messageIds) {
-            byDeletedMessage[messageId] = &conversation;
-        }
-    }
+    const Owners owners(m_conversations);
     const bool dated = m_database.columns("attachment"_L1).contains("created_date"_L1);
     auto query = m_database.prepare(
         "SELECT "_L1 + m_files.columns() + (dated ? ",a.created_date"_L1 : ",0"_L1)
@@ -105,38 +127,34 @@ void AttachmentData::read() const
           " GROUP BY a.ROWID ORDER BY a.ROWID"_L1);
     int neverDownloaded = 0;
     while (query && query->next()) {
-        const AttachmentRow attachment = MessageFiles::read(*query);
         if (query->integer(Hidden) != 0) {
             continue; // data of an app's message
         }
+        const AttachmentRow attachment = MessageFiles::read(*query);
         if (attachment.devicePath.isEmpty()) {
             ++neverDownloaded;
             continue;
         }
-        const auto deleted = byDeletedMessage.find(query->integer(MessageId));
-        const auto live = byChat.find(query->integer(ChatId));
-        const Conversation* conversation = nullptr;
-        if (live != byChat.end()) {
-            conversation = live->second;
-        } else if (deleted != byDeletedMessage.end()) {
-            conversation = deleted->second;
-        }
-        const bool isDeleted =
-            conversation != nullptr && conversation->kind == ConversationKind::Deleted;
+        const Conversation& owner = owners.of(query->integer(ChatId), query->integer(MessageId));
         const Record record{
             .values = {attachment.name},
-            .flags = isDeleted ? Deleted : 0,
-            .parent = directoryName(conversation != nullptr ? conversation->title : QString()),
+            .flags = owner.kind == ConversationKind::Deleted ? Deleted : 0,
+            .parent = directoryName(owner.title),
         };
         add(attachment, record, isoDate(query->integer(CreatedDate)));
     }
-    if (neverDownloaded == 1) {
+    noteNeverDownloaded(neverDownloaded);
+}
+
+void AttachmentData::noteNeverDownloaded(int count) const
+{
+    if (count == 1) {
         m_notices.add(QCoreApplication::translate(
             "DataExport", "One attachment was never downloaded to the phone."));
-    } else if (neverDownloaded > 1) {
+    } else if (count > 1) {
         m_notices.add(QCoreApplication::translate(
             "DataExport", "%1 attachments were never downloaded to the phone.")
-                          .arg(neverDownloaded));
+                          .arg(count));
     }
 }
 

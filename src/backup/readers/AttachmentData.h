@@ -24,6 +24,7 @@ protected:
 
 private:
     void read() const;
+    void noteNeverDownloaded(int count) const;
     void add(const AttachmentRow& attachment, const Record& record, const QString& date) const;
 
     const formats::Database& m_database;

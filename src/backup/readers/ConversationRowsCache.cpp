@@ -178,61 +178,58 @@ bool ConversationRowsCache::worthAScan(std::size_t index)
 ConversationRows ConversationRowsCache::walkIndex(const Conversation& conversation)
 {
     ConversationRows found;
-    auto query = m_database.prepare(m_table.select(
-        "chat_message_join j JOIN message m ON m.ROWID = j.message_id WHERE j.chat_id = ?"_L1));
-    bool failed = !query;
-    for (const std::int64_t chatId : conversation.chatIds) {
-        if (query) {
-            query->reset();
-            query->bind(1, chatId);
-            while (query->next()) {
-                MessageTable::append(*query, found);
-            }
-            noteFailure(*query);
-            failed = failed || query->failed();
-        }
+    const bool complete = eachRow(
+        m_table.select(
+            "chat_message_join j JOIN message m ON m.ROWID = j.message_id WHERE j.chat_id = ?"_L1),
+        conversation.chatIds,
+        [&](const formats::Statement& row) { MessageTable::append(row, found); });
+    if (!complete) {
+        return readMessages(idsOf(conversation));
     }
     // A message in two chats of the conversation is there once.
     std::ranges::sort(found.rows, {}, &MessageRow::id);
     const auto sameId = [](const MessageRow& a, const MessageRow& b) { return a.id == b.id; };
     found.rows.erase(std::unique(found.rows.begin(), found.rows.end(), sameId), found.rows.end());
-    return failed ? readMessages(idsOf(conversation)) : found;
+    return found;
 }
 
 // One by one where a damaged page has ended the walk: the others can still be read.
 std::vector<std::int64_t> ConversationRowsCache::idsOf(const Conversation& conversation)
 {
     std::set<std::int64_t> ids;
-    auto query =
-        m_database.prepare("SELECT message_id FROM chat_message_join WHERE chat_id = ?"_L1);
-    for (const std::int64_t chatId : conversation.chatIds) {
-        if (query) {
-            query->reset();
-            query->bind(1, chatId);
-            while (query->next()) {
-                ids.insert(query->integer(0));
-            }
-            noteFailure(*query);
-        }
-    }
+    eachRow("SELECT message_id FROM chat_message_join WHERE chat_id = ?"_L1, conversation.chatIds,
+        [&](const formats::Statement& row) { ids.insert(row.integer(0)); });
     return {ids.begin(), ids.end()};
 }
 
 ConversationRows ConversationRowsCache::readMessages(const std::vector<std::int64_t>& messageIds)
 {
     ConversationRows found;
-    auto query = m_database.prepare(m_table.select("message m WHERE m.ROWID = ?"_L1));
-    for (const std::int64_t id : messageIds) {
-        if (query) {
-            query->reset();
-            query->bind(1, id);
-            if (query->next()) {
-                MessageTable::append(*query, found);
-            }
-            noteFailure(*query);
-        }
-    }
+    eachRow(m_table.select("message m WHERE m.ROWID = ?"_L1), messageIds,
+        [&](const formats::Statement& row) { MessageTable::append(row, found); });
     return found;
+}
+
+// The rows that a query gives for each key. False when some could not be read.
+bool ConversationRowsCache::eachRow(const QString& sql, const std::vector<std::int64_t>& keys,
+    const std::function<void(const formats::Statement&)>& use)
+{
+    auto query = m_database.prepare(sql);
+    if (!query) {
+        m_notices.add(query.error().text());
+        return false;
+    }
+    bool complete = true;
+    for (const std::int64_t key : keys) {
+        query->reset();
+        query->bind(1, static_cast<qint64>(key));
+        while (query->next()) {
+            use(*query);
+        }
+        noteFailure(*query);
+        complete = complete && !query->failed();
+    }
+    return complete;
 }
 
 void ConversationRowsCache::scanFrom(std::size_t index)

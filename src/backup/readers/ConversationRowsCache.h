@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -67,6 +68,8 @@ private:
     void keep(const formats::Statement& row);
     bool isInBatch(std::int64_t messageId) const;
     void readAttachmentIds();
+    bool eachRow(const QString& sql, const std::vector<std::int64_t>& keys,
+        const std::function<void(const formats::Statement&)>& use);
     void noteFailure(const formats::Statement& query);
 
     const formats::Database& m_database;

@@ -89,7 +89,8 @@ QString readText(const QString& path)
 // "52.5200, 13.4050" of a line "item1.URL;type=pref:http://maps.example/?ll=52.5200\,13.4050&q=…"
 QString coordinates(const QString& locationFile)
 {
-    static const QRegularExpression pattern("[?&](?:ll|q)=(-?[0-9.]+)\\\\?(?:,|%2C)(-?[0-9.]+)"_L1);
+    static const QRegularExpression pattern(
+        R"([?&](?:ll|q)=(-?[0-9.]+)\\?(?:,|%2C)(-?[0-9.]+))"_L1);
     const QRegularExpressionMatch match = pattern.match(locationFile);
     return match.hasMatch() ? match.captured(1) + ", "_L1 + match.captured(2) : QString();
 }

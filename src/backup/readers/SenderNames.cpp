@@ -45,7 +45,7 @@ QString personName(const formats::Statement& person)
     if (isEastAsian(first + last)) {
         std::swap(first, last); // the family name leads
     }
-    const QString name = (first + QChar(u' ') + last).simplified();
+    QString name = (first + QChar(u' ') + last).simplified();
     if (!name.isEmpty()) {
         return name;
     }
@@ -90,7 +90,7 @@ QString SenderNames::nameOf(const QString& address) const
     }
     const QString digits = digitsOf(address);
     const QVector<Number> candidates = m_phones.value(digits.right(kComparedDigits));
-    const auto found = std::ranges::find_if(candidates, [&](const Number& number) {
+    const auto* const found = std::ranges::find_if(candidates, [&](const Number& number) {
         if (digits.size() < kComparedDigits || number.digits.size() < kComparedDigits) {
             return digits == number.digits;
         }

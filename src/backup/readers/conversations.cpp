@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -246,34 +247,51 @@ private:
         const QString& identifier, const QString& displayName)
     {
         conversation.group = group;
-        for (const std::int64_t member : m_members[chatId]) {
-            if (std::ranges::find(conversation.memberIds, member) == conversation.memberIds.end()) {
-                conversation.memberIds.push_back(member);
-            }
-        }
-        QStringList names;
-        QStringList phones;
-        QStringList emails;
-        for (const std::int64_t id : conversation.memberIds) {
-            const Handle& handle = m_handles.at(id);
-            names.append(handle.name);
-            (isEmail(handle.address) ? emails : phones).append(handle.address);
-        }
-        if (!group || conversation.memberIds.empty()) {
-            phones = isEmail(identifier) ? QStringList() : QStringList(identifier);
-            emails = isEmail(identifier) ? QStringList(identifier) : QStringList();
-        }
-        names.removeDuplicates();
-        phones.removeDuplicates();
-        emails.removeDuplicates();
-        if (!displayName.isEmpty() || conversation.title.isEmpty()) {
+        std::vector<std::int64_t>& members = conversation.memberIds;
+        std::ranges::copy_if(m_members[chatId], std::back_inserter(members),
+            [&](std::int64_t id) { return std::ranges::find(members, id) == members.end(); });
+        const bool byMembers = group && !members.empty();
+        const QStringList addresses = byMembers ? addressesOf(members) : QStringList(identifier);
+        conversation.phone = joined(addresses, false);
+        conversation.email = joined(addresses, true);
+        if (!displayName.isEmpty()) {
             conversation.title = displayName;
         }
         if (conversation.title.isEmpty()) {
-            conversation.title = names.isEmpty() ? identifier : names.join(", "_L1);
+            conversation.title = namesOf(members);
         }
-        conversation.phone = phones.join(", "_L1);
-        conversation.email = emails.join(", "_L1);
+        if (conversation.title.isEmpty()) {
+            conversation.title = identifier;
+        }
+    }
+
+    QStringList addressesOf(const std::vector<std::int64_t>& members) const
+    {
+        QStringList addresses;
+        for (const std::int64_t id : members) {
+            addresses.append(m_handles.at(id).address);
+        }
+        addresses.removeDuplicates();
+        return addresses;
+    }
+
+    QString namesOf(const std::vector<std::int64_t>& members) const
+    {
+        QStringList names;
+        for (const std::int64_t id : members) {
+            names.append(m_handles.at(id).name);
+        }
+        names.removeDuplicates();
+        return names.join(", "_L1);
+    }
+
+    // Of the addresses those that are e-mail, or those that are not.
+    static QString joined(const QStringList& addresses, bool emails)
+    {
+        QStringList kind;
+        std::ranges::copy_if(addresses, std::back_inserter(kind),
+            [emails](const QString& address) { return isEmail(address) == emails; });
+        return kind.join(", "_L1);
     }
 
     void addDeleted()

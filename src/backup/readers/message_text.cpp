@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace backup {
 
@@ -22,7 +23,7 @@ namespace {
 
 struct AppRow {
     QLatin1String bundlePart;
-    const char* name;
+    const char* name = nullptr;
 };
 
 // clang-format off
@@ -60,13 +61,13 @@ QString linkText(const QVariantMap& payload)
 
 QString captionText(const QVariantMap& payload)
 {
-    const QString label = payload.value("ldtext"_L1).toString();
+    QString label = payload.value("ldtext"_L1).toString();
     if (!label.isEmpty()) {
         return label;
     }
     const QVariantMap captions = payload.value("userInfo"_L1).toMap();
     for (const QLatin1String key : kCaptionKeys) {
-        const QString caption = captions.value(key).toString();
+        QString caption = captions.value(key).toString();
         if (!caption.isEmpty()) {
             return caption;
         }
@@ -112,6 +113,15 @@ QString versionText(const QVariant& version)
     return text ? shownText(*text) : QString();
 }
 
+// Oldest first, the current one last.
+QStringList versionTexts(const QVariant& part)
+{
+    const QVariantList versions = part.toList();
+    QStringList texts;
+    std::ranges::transform(versions, std::back_inserter(texts), versionText);
+    return texts;
+}
+
 } // namespace
 
 // The phone shows what stands before and after an attachment in bubbles of their own; here they are
@@ -141,24 +151,24 @@ QString shownText(std::string_view utf8)
 
 EditHistory readEditHistory(const QByteArray& summaryInfo)
 {
-    EditHistory history;
     const auto plist = formats::parsePlist(summaryInfo, QString());
     if (!plist) {
-        return history;
+        return {};
     }
     const QVariantMap summary = plist->toMap();
+    EditHistory history;
     history.partsUnsent = !summary.value("rp"_L1).toList().isEmpty();
     QStringList current;
     const QVariantMap parts = summary.value("ec"_L1).toMap();
     for (const QVariant& part : parts) {
-        const QVariantList versions = part.toList();
-        for (int i = 0; i < versions.size(); ++i) {
-            const QString text = versionText(versions.at(i));
-            if (!text.isEmpty()) {
-                (i + 1 < versions.size() ? history.earlier : current).append(text);
-            }
+        QStringList versions = versionTexts(part);
+        if (!versions.isEmpty()) {
+            current.append(versions.takeLast());
         }
+        history.earlier += versions;
     }
+    current.removeAll(QString());
+    history.earlier.removeAll(QString());
     history.current = current.join(QChar(u'\n'));
     return history;
 }
