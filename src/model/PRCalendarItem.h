@@ -22,6 +22,7 @@ public:
 
     QVariant sortValue(int column) const override;
     /// Not 0 for an event of whole days.
+    // NOLINTNEXTLINE(readability-make-member-function-const): the signature is agreed
     int getAllDay() { return m_event.allDay; }
     const CalendarEvent& event() const { return m_event; }
 

@@ -28,6 +28,7 @@ public:
     QString thumbFilePath() const { return m_content.thumbFile; }
     QString thumbnail() const { return m_content.thumbnail; }
     // NOLINTNEXTLINE(readability-make-member-function-const): not const in the contract
+    // NOLINTNEXTLINE(readability-make-member-function-const): the signature is agreed
     bool isThumbToMedia() { return m_content.thumbToMedia; }
     QString getDetailInfoDateTime() const { return m_content.detailDate; }
     /// All but the path, which only `filePath` knows.

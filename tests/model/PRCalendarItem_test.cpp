@@ -11,7 +11,7 @@ namespace {
 
 QDateTime day(int number)
 {
-    return QDateTime(QDate(2024, 5, number), QTime(12, 0), Qt::UTC);
+    return {QDate(2024, 5, number), QTime(12, 0), Qt::UTC};
 }
 
 } // namespace

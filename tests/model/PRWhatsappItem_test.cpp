@@ -60,7 +60,8 @@ TEST(PRWhatsappMsg, KeepsAnUnknownType)
 TEST(PRWhatsappItem, KeepsItsMessagesInOrder)
 {
     std::vector<PRWhatsappMsg> messages;
-    for (int i = 0; i < 50; ++i) { // grows several times
+    messages.reserve(50);
+    for (int i = 0; i < 50; ++i) {
         messages.emplace_back(ChatMessage{.content = QString::number(i)});
     }
     const PRWhatsappItem item({.values = {"Title", "Name", "Phone"}}, std::move(messages));
