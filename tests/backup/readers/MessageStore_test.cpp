@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "backup/readers/MessageStoreTest.h"
 #include "backup/readers/MessageStore.h"
+#include "backup/readers/MessageStoreTest.h"
 
 #include <QFile>
 

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 namespace {
 
 QString realFile(const QString& path)
@@ -43,71 +45,96 @@ QStringList allTexts(const backup::OpenedBackup& opened)
     return texts;
 }
 
-#define OPEN_OR_SKIP(opened, path)                                                                 \
-    const QString file = realFile(path);                                                           \
-    if (!QFileInfo::exists(file)) {                                                                \
-        GTEST_SKIP() << "there is no " << file.toStdString();                                      \
-    }                                                                                              \
-    auto opened =                                                                                  \
-        QFileInfo(file).isDir() ? backup::openBackupFolder(file) : backup::openDatabaseFile(file); \
-    ASSERT_TRUE(opened.has_value()) << opened.error().text().toStdString()
+/// Opens a real store or backup folder; passes the test over where it is absent.
+class RealStores : public testing::Test {
+protected:
+    bool open(const QString& path)
+    {
+        m_file = realFile(path);
+        if (!QFileInfo::exists(m_file)) {
+            return false;
+        }
+        auto opened = QFileInfo(m_file).isDir() ? backup::openBackupFolder(m_file)
+                                                : backup::openDatabaseFile(m_file);
+        EXPECT_TRUE(opened.has_value()) << opened.error().text().toStdString();
+        m_opened.emplace(std::move(*opened));
+        return true;
+    }
 
-TEST(RealStores, AllMessagesOfAnIos12StoreAreRead)
+    QString m_file;
+    std::optional<backup::OpenedBackup> m_opened;
+};
+
+TEST_F(RealStores, AllMessagesOfAnIos12StoreAreRead)
 {
-    OPEN_OR_SKIP(opened, "databases/ios12-sms.db");
-    const auto database = formats::Database::open(file, formats::OpenMode::Immutable);
+    if (!open("databases/ios12-sms.db")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    const auto database = formats::Database::open(m_file, formats::OpenMode::Immutable);
     ASSERT_TRUE(database.has_value());
     auto visible =
         database->prepare("SELECT count(*) FROM message WHERE associated_message_type < 3000");
     ASSERT_TRUE(visible->next());
-    EXPECT_EQ(allTexts(*opened).size(), visible->integer(0));
+    EXPECT_EQ(allTexts(*m_opened).size(), visible->integer(0));
     auto files = database->prepare("SELECT count(*) FROM attachment WHERE filename IS NOT NULL"
                                    " AND hide_attachment = 0");
     ASSERT_TRUE(files->next());
-    EXPECT_EQ(opened->records.getPRData(1)->count(1), files->integer(0));
+    EXPECT_EQ(m_opened->records.getPRData(1)->count(1), files->integer(0));
 }
 
-TEST(RealStores, TextOfAnIos18StoreComesFromTheBodies)
+TEST_F(RealStores, TextOfAnIos18StoreComesFromTheBodies)
 {
-    OPEN_OR_SKIP(opened, "databases/ios18-chat.db");
-    const QStringList texts = allTexts(*opened);
+    if (!open("databases/ios18-chat.db")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    const QStringList texts = allTexts(*m_opened);
     EXPECT_EQ(texts.size(), 3);
     EXPECT_TRUE(texts.contains("I’m going to try to eat as quick as possible and then come over"));
     EXPECT_TRUE(texts.contains("Oh it translated what I sent!"));
 }
 
-TEST(RealStores, Ios16StoreIsRead)
+TEST_F(RealStores, Ios16StoreIsRead)
 {
-    OPEN_OR_SKIP(opened, "databases/ios16-chat.db");
-    EXPECT_EQ(allTexts(*opened).size(), 2);
+    if (!open("databases/ios16-chat.db")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(allTexts(*m_opened).size(), 2);
 }
 
-TEST(RealStores, JoinsThatDangleCostNoMessage)
+TEST_F(RealStores, JoinsThatDangleCostNoMessage)
 {
-    OPEN_OR_SKIP(opened, "databases/macos10.11-chat-dangling-joins.db");
-    EXPECT_EQ(allTexts(*opened).size(), 10);
+    if (!open("databases/macos10.11-chat-dangling-joins.db")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(allTexts(*m_opened).size(), 10);
 }
 
-TEST(RealStores, BackupsOfEmptyPhonesOpen)
+TEST_F(RealStores, BackupsOfEmptyPhonesOpen)
 {
     for (const char* path : {"backups/ios-13.3", "backups/ios-14.0-beta"}) {
         SCOPED_TRACE(path);
-        OPEN_OR_SKIP(opened, path);
-        ASSERT_NE(opened->records.getPRData(0), nullptr);
-        EXPECT_EQ(allTexts(*opened), QStringList());
+        if (!open(path)) {
+            GTEST_SKIP() << "there is no " << m_file.toStdString();
+        }
+        ASSERT_NE(m_opened->records.getPRData(0), nullptr);
+        EXPECT_EQ(allTexts(*m_opened), QStringList());
     }
 }
 
-TEST(RealStores, BackupWithMostPayloadsAbsentGivesWhatIsThere)
+TEST_F(RealStores, BackupWithMostPayloadsAbsentGivesWhatIsThere)
 {
-    OPEN_OR_SKIP(opened, "backups/ios-14.3-manifest-mostly-absent");
-    EXPECT_EQ(allTexts(*opened).size(), 1);
+    if (!open("backups/ios-14.3-manifest-mostly-absent")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(allTexts(*m_opened).size(), 1);
 }
 
-TEST(RealStores, HandMadeStoreIsRead)
+TEST_F(RealStores, HandMadeStoreIsRead)
 {
-    OPEN_OR_SKIP(opened, "databases/miniatures/messages/testdata/messages.1.sms.db");
-    EXPECT_EQ(allTexts(*opened).size(), 10);
+    if (!open("databases/miniatures/messages/testdata/messages.1.sms.db")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(allTexts(*m_opened).size(), 10);
 }
 
 } // namespace
