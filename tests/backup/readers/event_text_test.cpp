@@ -11,7 +11,7 @@ TEST(EventSentence, TellsEachKindOfLine)
 {
     struct Row {
         EventFacts facts;
-        const char* sentence;
+        const char* sentence = nullptr;
     };
     const Row rows[] = {
         {{.itemType = 1, .actor = "Mia", .other = "Tom"}, "Mia added Tom to the conversation"},
@@ -53,7 +53,7 @@ TEST(ReactionSentence, TellsEachReaction)
 {
     struct Row {
         int type;
-        const char* sentence;
+        const char* sentence = nullptr;
     };
     static constexpr Row kRows[] = {
         {1000, "Mia placed a sticker on “Hi”"},
