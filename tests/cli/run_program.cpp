@@ -42,6 +42,7 @@ Outcome result(QProcess& process)
 [[noreturn]] void execute(const QByteArray& folder, const std::vector<QByteArray>& arguments)
 {
     std::vector<char*> pointers;
+    pointers.reserve(arguments.size() + 1);
     for (const QByteArray& argument : arguments) {
         pointers.push_back(const_cast<char*>(argument.constData())); // execv takes it so
     }

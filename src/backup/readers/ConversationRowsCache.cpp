@@ -16,7 +16,7 @@ namespace backup {
 namespace {
 
 // Messages that one scan keeps: some 100 bytes each with their text.
-constexpr std::size_t kBatchMessages = 400'000;
+constexpr std::size_t kBatchMessages = 500'000;
 // A table that would need more scans than this is read by the index.
 constexpr std::size_t kMostScans = 6;
 // Who has asked for this many conversations in a row will ask for the rest as well.
