@@ -135,8 +135,11 @@ std::optional<QDateTime> momentFrom(std::string_view text)
     const QDate day = readDay(scanner);
     const bool separator = scanner.skip('T');
     const QTime time = readTime(scanner);
+    if (!separator || !day.isValid() || !time.isValid()) {
+        return std::nullopt;
+    }
     const qint64 days = day.toJulianDay() - kJulianDayOf1970;
-    if (!separator || !day.isValid() || !time.isValid() || qAbs(days) > kLastDay) {
+    if (qAbs(days) > kLastDay) {
         return std::nullopt;
     }
     if (scanner.atEnd()) {
