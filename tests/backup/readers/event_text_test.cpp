@@ -52,7 +52,7 @@ TEST(EventSentence, KeepsPlacesInNames)
 TEST(ReactionSentence, TellsEachReaction)
 {
     struct Row {
-        int type;
+        int type = 0;
         const char* sentence = nullptr;
     };
     static constexpr Row kRows[] = {
