@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string_view>
 
 namespace {
@@ -18,7 +19,7 @@ bool isOneOf(int code, std::u16string_view characters)
 
 QString oneCharacter(int code)
 {
-    return QString(QChar(static_cast<ushort>(code)));
+    return {QChar(static_cast<ushort>(code))};
 }
 
 } // namespace
@@ -95,24 +96,21 @@ TEST(CsvQuote, QuotesEvenAnEmptyTextAndOneThatNeedsNothing)
 
 TEST(AppendCsvEscaped, AddsToTheRowWithoutQuotesAround)
 {
-    QString row = "\"x\",\"";
+    QString row = R"("x",")";
     appendCsvEscaped(row, "a\"b");
     appendCsvEscaped(row, "");
     appendCsvEscaped(row, "\"");
-    EXPECT_EQ(row, "\"x\",\"a\"\"b\"\"");
+    EXPECT_EQ(row, R"("x","a""b"")");
 }
 
 TEST(HtmlEscapeLines, EscapesFourCharactersAndTurnsTheLineFeed)
 {
+    const std::map<int, QString> replaced = {
+        {'<', "&lt;"}, {'>', "&gt;"}, {'&', "&amp;"}, {'"', "&quot;"}, {'\n', "<br>"}};
     for (int code = 0; code < kCharacters; ++code) {
+        const auto found = replaced.find(code);
         const QString text = oneCharacter(code);
-        const QString expected = code == '<'    ? QString("&lt;")
-                                 : code == '>'  ? QString("&gt;")
-                                 : code == '&'  ? QString("&amp;")
-                                 : code == '"'  ? QString("&quot;")
-                                 : code == '\n' ? QString("<br>")
-                                                : text;
-        ASSERT_EQ(htmlEscapeLines(text), expected) << code;
+        ASSERT_EQ(htmlEscapeLines(text), found == replaced.end() ? text : found->second) << code;
     }
 }
 
