@@ -7,33 +7,60 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <array>
+#include <optional>
+
 namespace backup {
 
 namespace {
-
-constexpr QLatin1String kMessages = "Library/SMS/sms.db"_L1;
 
 QString tr(const char* text)
 {
     return QCoreApplication::translate("DataExport", text);
 }
 
-void addMessages(OpenedBackup& opened, OpenedDatabase database, const SenderNames& names)
+/// A database that was found, with what its reader may need besides.
+struct FoundDatabase {
+    OpenedDatabase database;
+    const SenderNames& names;
+};
+
+void addMessages(FoundDatabase found, OpenedBackup& opened)
 {
-    auto store =
-        std::make_unique<MessageStore>(std::move(database), names, *opened.files, *opened.notices);
+    auto store = std::make_unique<MessageStore>(
+        std::move(found.database), found.names, *opened.files, *opened.notices);
     opened.records.add(store->messages());
     opened.records.add(store->attachments());
     opened.sources.push_back(std::move(store));
 }
 
-// The database of the device, or none; why there is none is told to the notices.
-std::optional<OpenedDatabase> openOrNote(
-    const BackupFolder& folder, const QString& relativePath, Notices& notices)
+/// One place where a device keeps records. A kind that lies elsewhere on other releases has a row
+/// for each place; all of them are read.
+struct SourceRow {
+    QLatin1String domain;
+    QLatin1String path;
+    bool everywhere = false; ///< each device has it: that it is missing is told
+    bool (*isOfKind)(const formats::Database&) = nullptr; ///< by its tables
+    void (*add)(FoundDatabase, OpenedBackup&) = nullptr;  ///< fills in what it holds
+};
+
+// clang-format off
+constexpr std::array kSources{
+    SourceRow{"HomeDomain"_L1, "Library/SMS/sms.db"_L1, true, MessageStore::isMessageStore, addMessages},
+};
+// clang-format on
+
+// The database of the device, or none; why there is none is told to the notices, its absence only
+// where `isExpected`.
+std::optional<OpenedDatabase> openOrNote(const BackupFolder& folder, const QString& domain,
+    const QString& path, bool isExpected, Notices& notices)
 {
-    auto found = folder.openDatabase("HomeDomain"_L1, relativePath);
+    auto found = folder.openDatabase(domain, path);
     if (!found) {
-        notices.add(tr("The backup has no %1.").arg(relativePath));
+        if (isExpected) {
+            notices.add(tr("The backup has no %1.").arg(path));
+        }
         return std::nullopt;
     }
     if (!*found) {
@@ -41,6 +68,22 @@ std::optional<OpenedDatabase> openOrNote(
         return std::nullopt;
     }
     return std::move(**found);
+}
+
+void addFrom(const BackupFolder& device, const SourceRow& source, const SenderNames& names,
+    OpenedBackup& opened)
+{
+    auto database =
+        openOrNote(device, source.domain, source.path, source.everywhere, *opened.notices);
+    if (!database) {
+        return;
+    }
+    if (source.isOfKind(database->database)) {
+        source.add({.database = std::move(*database), .names = names}, opened);
+    } else {
+        opened.notices->add(
+            tr("%1 of the backup is not of a kind that can be read.").arg(source.path));
+    }
 }
 
 } // namespace
@@ -57,17 +100,12 @@ formats::Result<OpenedBackup> openBackupFolder(const QString& path)
     opened.files = std::move(*folder);
 
     SenderNames names;
-    if (const auto addressBook =
-            openOrNote(device, "Library/AddressBook/AddressBook.sqlitedb"_L1, *opened.notices)) {
+    if (const auto addressBook = openOrNote(device, "HomeDomain"_L1,
+            "Library/AddressBook/AddressBook.sqlitedb"_L1, true, *opened.notices)) {
         names = SenderNames(addressBook->database);
     }
-    if (auto messages = openOrNote(device, kMessages, *opened.notices)) {
-        if (MessageStore::isMessageStore(messages->database)) {
-            addMessages(opened, std::move(*messages), names);
-        } else {
-            opened.notices->add(
-                tr("%1 of the backup is no store of messages that can be read.").arg(kMessages));
-        }
+    for (const SourceRow& source : kSources) {
+        addFrom(device, source, names, opened);
     }
     return opened;
 }
@@ -80,13 +118,15 @@ formats::Result<OpenedBackup> openDatabaseFile(const QString& path)
     if (!database) {
         return database.error();
     }
-    if (!MessageStore::isMessageStore(database->database)) {
+    const auto* const source = std::ranges::find_if(
+        kSources, [&](const SourceRow& row) { return row.isOfKind(database->database); });
+    if (source == kSources.end()) {
         return formats::Error{.where = path,
             .what = tr("this is no database of a kind that can be read; it has the tables %1")
                         .arg(database->database.tables().join(", "_L1))};
     }
     opened.files = std::make_unique<LooseFiles>(QFileInfo(path).absoluteDir());
-    addMessages(opened, std::move(*database), SenderNames());
+    source->add({.database = std::move(*database), .names = SenderNames()}, opened);
     return opened;
 }
 
