@@ -48,7 +48,7 @@ install(EXPORT DataExportTargets NAMESPACE DataExport::
     DESTINATION "${DATAEXPORT_INSTALL_PACKAGE}")
 
 # OvResourceMgr looks for share/dataexport/DataExport above the library.
-install(DIRECTORY resources/DataExport resources/translations
+install(DIRECTORY resources/DataExport
     DESTINATION "${CMAKE_INSTALL_DATADIR}/dataexport"
     PATTERN README.md EXCLUDE)
 if(EXISTS "${CMAKE_SOURCE_DIR}/docs/dataexport.1")

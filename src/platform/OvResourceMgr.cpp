@@ -11,7 +11,7 @@
 namespace {
 
 // The library lies in <prefix>/lib and its resources in <prefix>/share/dataexport; in the build
-// tree the folder of the sources serves.
+// tree they lie in a folder of their own.
 QString defaultRoot()
 {
     Dl_info place = {};

@@ -20,8 +20,8 @@ TEST(OvResourceMgr, TakesTheFolderOfTheHostAndGoesBackToTheDefault)
     EXPECT_EQ(manager.productResourceRoot(), standard);
 }
 
-TEST(OvResourceMgr, FindsTheFolderOfTheSourcesInTheBuildTree)
+TEST(OvResourceMgr, FindsTheFolderOfTheBuildInTheBuildTree)
 {
     EXPECT_EQ(QDir::cleanPath(OvResourceMgr::instance()->productResourceRoot()),
-        QDir::cleanPath(DATAEXPORT_SOURCE_DIR "/resources"));
+        QDir::cleanPath(DATAEXPORT_BUILD_DIR "/resources"));
 }

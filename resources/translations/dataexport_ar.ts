@@ -1,0 +1,579 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>DataExport</name>
+    <message>
+        <source>%1&apos;s %2</source>
+        <extracomment>Title of a page: %1 is a person&apos;s name, %2 the name of a category, such as Messages.</extracomment>
+        <translation>%2 - %1</translation>
+    </message>
+    <message>
+        <source>in common use</source>
+        <extracomment>Part of a file name, after the category: contacts in a form that any program reads.</extracomment>
+        <translation>للاستخدام العام</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>الهاتف</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>البريد الإلكتروني</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>التاريخ</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <extracomment>Column: the text of a message.</extracomment>
+        <translation>المحتوى</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>مُرسَلة</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>مُستلَمة</translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation>الاسم: %1</translation>
+    </message>
+    <message>
+        <source>Phone: %1</source>
+        <translation>الهاتف: %1</translation>
+    </message>
+    <message>
+        <source>Email: %1</source>
+        <translation>البريد الإلكتروني: %1</translation>
+    </message>
+    <message>
+        <source>Date: %1</source>
+        <translation>التاريخ: %1</translation>
+    </message>
+    <message>
+        <source>Chat</source>
+        <extracomment>Column: the name of a conversation.</extracomment>
+        <translation>الدردشة</translation>
+    </message>
+    <message>
+        <source>Chat: %1</source>
+        <translation>الدردشة: %1</translation>
+    </message>
+    <message>
+        <source>Group Event</source>
+        <extracomment>Of a line in a conversation: somebody joined, left, and the like.</extracomment>
+        <translation>حدث في المجموعة</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <extracomment>Of a message that could not be sent.</extracomment>
+        <translation>فشل</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>التفاصيل</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>الاسم المستعار</translation>
+    </message>
+    <message>
+        <source>Wechat ID</source>
+        <extracomment>The name by which a person can be found there.</extracomment>
+        <translation>معرف WeChat</translation>
+    </message>
+    <message>
+        <source>WXID</source>
+        <extracomment>The inner name of an account; not to be translated.</extracomment>
+        <translation>WXID</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>المنطقة</translation>
+    </message>
+    <message>
+        <source>What&apos;s Up</source>
+        <extracomment>A line that a person shows beside the name.</extracomment>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>mobile</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>الجوال</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>المنزل</translation>
+    </message>
+    <message>
+        <source>work</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>العمل</translation>
+    </message>
+    <message>
+        <source>anniversary</source>
+        <extracomment>Label of a date: a day that returns each year, not a birthday.</extracomment>
+        <translation>ذكرى سنوية</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>آخر</translation>
+    </message>
+    <message>
+        <source>main</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>الرئيسي</translation>
+    </message>
+    <message>
+        <source>other fax</source>
+        <translation>فاكس آخر</translation>
+    </message>
+    <message>
+        <source>home fax</source>
+        <translation>فاكس المنزل</translation>
+    </message>
+    <message>
+        <source>work fax</source>
+        <translation>فاكس العمل</translation>
+    </message>
+    <message>
+        <source>pager</source>
+        <translation>جهاز النداء</translation>
+    </message>
+    <message>
+        <source>home page</source>
+        <extracomment>Label of a web address.</extracomment>
+        <translation>الصفحة الرئيسية</translation>
+    </message>
+    <message>
+        <source>mother</source>
+        <translation>الأم</translation>
+    </message>
+    <message>
+        <source>father</source>
+        <translation>الأب</translation>
+    </message>
+    <message>
+        <source>parent</source>
+        <extracomment>Mother or father.</extracomment>
+        <translation>أحد الوالدين</translation>
+    </message>
+    <message>
+        <source>brother</source>
+        <translation>الأخ</translation>
+    </message>
+    <message>
+        <source>sister</source>
+        <translation>الأخت</translation>
+    </message>
+    <message>
+        <source>child</source>
+        <translation>الابن أو الابنة</translation>
+    </message>
+    <message>
+        <source>friend</source>
+        <extracomment>A woman or a man.</extracomment>
+        <translation>صديق</translation>
+    </message>
+    <message>
+        <source>spouse</source>
+        <translation>الزوج أو الزوجة</translation>
+    </message>
+    <message>
+        <source>partner</source>
+        <extracomment>A woman or a man with whom somebody lives.</extracomment>
+        <translation>الشريك</translation>
+    </message>
+    <message>
+        <source>assistant</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>المساعد</translation>
+    </message>
+    <message>
+        <source>manager</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>المدير</translation>
+    </message>
+    <message>
+        <source>Twitter</source>
+        <translation>Twitter</translation>
+    </message>
+    <message>
+        <source>Facebook</source>
+        <translation>Facebook</translation>
+    </message>
+    <message>
+        <source>Flickr</source>
+        <translation>Flickr</translation>
+    </message>
+    <message>
+        <source>LinkedIn</source>
+        <translation>LinkedIn</translation>
+    </message>
+    <message>
+        <source>Myspace</source>
+        <translation>Myspace</translation>
+    </message>
+    <message>
+        <source>Sina Weibo</source>
+        <translation>Sina Weibo</translation>
+    </message>
+    <message>
+        <source>birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>عيد الميلاد</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>المدرسة</translation>
+    </message>
+    <message>
+        <source>Elder Brother</source>
+        <translation>الأخ الأكبر</translation>
+    </message>
+    <message>
+        <source>Elder Sister</source>
+        <translation>الأخت الكبرى</translation>
+    </message>
+    <message>
+        <source>Younger Brother</source>
+        <translation>الأخ الأصغر</translation>
+    </message>
+    <message>
+        <source>Younger Sister</source>
+        <translation>الأخت الصغرى</translation>
+    </message>
+    <message>
+        <source>Husband</source>
+        <translation>الزوج</translation>
+    </message>
+    <message>
+        <source>Wife</source>
+        <translation>الزوجة</translation>
+    </message>
+    <message>
+        <source>Son</source>
+        <translation>الابن</translation>
+    </message>
+    <message>
+        <source>Daughter</source>
+        <translation>الابنة</translation>
+    </message>
+    <message>
+        <source>Colleague</source>
+        <translation>الزميل</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <extracomment>A postal address.</extracomment>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>عنوان الويب</translation>
+    </message>
+    <message>
+        <source>Related Name</source>
+        <extracomment>A person who belongs to this one: mother, assistant and so on.</extracomment>
+        <translation>اسم ذو صلة</translation>
+    </message>
+    <message>
+        <source>Social Profile</source>
+        <translation>ملف تعريف اجتماعي</translation>
+    </message>
+    <message>
+        <source>Instant Message</source>
+        <extracomment>Heading over accounts of messengers.</extracomment>
+        <translation>مراسلة فورية</translation>
+    </message>
+    <message>
+        <source>Birthday</source>
+        <translation>عيد الميلاد</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <translation>ملاحظات</translation>
+    </message>
+    <message>
+        <source>Reading List</source>
+        <extracomment>Pages to be read later, in the browser.</extracomment>
+        <translation>قائمة القراءة</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>Pages that were visited, in the browser.</extracomment>
+        <translation>السجل</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <extracomment>Of a note that only its password opens.</extracomment>
+        <translation>مقفلة</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <extracomment>Who did something: stands for %1 in the lines below.</extracomment>
+        <translation>أنت</translation>
+    </message>
+    <message>
+        <source>you</source>
+        <extracomment>Who was added or removed: stands for %2 in two of the lines below.</extracomment>
+        <translation>أنت</translation>
+    </message>
+    <message>
+        <source>Someone</source>
+        <extracomment>Stands for a person without name and number.</extracomment>
+        <translation>شخص ما</translation>
+    </message>
+    <message>
+        <source>a message</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>رسالة</translation>
+    </message>
+    <message>
+        <source>an attachment</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>مرفق</translation>
+    </message>
+    <message>
+        <source>%1 edited the message. Before: %2</source>
+        <extracomment>%1 may be &quot;You&quot;; %2 is what the message said, in quotation marks.</extracomment>
+        <translation>%1: تعديل الرسالة. قبل ذلك: %2</translation>
+    </message>
+    <message>
+        <source>%1 placed a sticker on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: وضع ملصق على %2</translation>
+    </message>
+    <message>
+        <source>%1 loved %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A heart on a message.</extracomment>
+        <translation>%1: رد فعل بقلب على %2</translation>
+    </message>
+    <message>
+        <source>%1 liked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: رد فعل بإبهام لأعلى على %2</translation>
+    </message>
+    <message>
+        <source>%1 disliked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: رد فعل بإبهام لأسفل على %2</translation>
+    </message>
+    <message>
+        <source>%1 laughed at %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: رد فعل بالضحك على %2</translation>
+    </message>
+    <message>
+        <source>%1 emphasized %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. Exclamation marks on a message.</extracomment>
+        <translation>%1: رد فعل بعلامة تعجب على %2</translation>
+    </message>
+    <message>
+        <source>%1 questioned %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A question mark on a message.</extracomment>
+        <translation>%1: رد فعل بعلامة استفهام على %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with a sticker to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: رد فعل بملصق على %2</translation>
+    </message>
+    <message>
+        <source>%1 voted on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a poll.</extracomment>
+        <translation>%1: تصويت على %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with %2 to %3</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is an emoji.</extracomment>
+        <translation>%1: رد فعل %2 على %3</translation>
+    </message>
+    <message>
+        <source>%1 reacted to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: رد فعل على %2</translation>
+    </message>
+    <message>
+        <source>%1 removed %2 from the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1: إزالة عضو من المحادثة: %2</translation>
+    </message>
+    <message>
+        <source>%1 changed the phone number</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: تغيير رقم الهاتف</translation>
+    </message>
+    <message>
+        <source>%1 added %2 to the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1: إضافة عضو إلى المحادثة: %2</translation>
+    </message>
+    <message>
+        <source>%1 removed the name of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: إزالة اسم المحادثة</translation>
+    </message>
+    <message>
+        <source>%1 named the conversation %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is the new name, in quotation marks.</extracomment>
+        <translation>%1: تسمية المحادثة %2</translation>
+    </message>
+    <message>
+        <source>%1 left the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: مغادرة المحادثة</translation>
+    </message>
+    <message>
+        <source>%1 changed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: تغيير صورة المجموعة</translation>
+    </message>
+    <message>
+        <source>%1 removed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: إزالة صورة المجموعة</translation>
+    </message>
+    <message>
+        <source>%1 changed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: تغيير خلفية المحادثة</translation>
+    </message>
+    <message>
+        <source>%1 removed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: إزالة خلفية المحادثة</translation>
+    </message>
+    <message>
+        <source>%1 changed the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: تغيير المحادثة</translation>
+    </message>
+    <message>
+        <source>%1 started sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: بدء مشاركة الموقع</translation>
+    </message>
+    <message>
+        <source>%1 stopped sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: إيقاف مشاركة الموقع</translation>
+    </message>
+    <message>
+        <source>%1 kept an audio message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: الاحتفاظ برسالة صوتية</translation>
+    </message>
+    <message>
+        <source>%1 started a call or a shared activity</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: بدء مكالمة أو نشاط مشترك</translation>
+    </message>
+    <message>
+        <source>%1 unsent a message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: التراجع عن إرسال رسالة</translation>
+    </message>
+    <message>
+        <source>Handwritten message</source>
+        <translation>رسالة بخط اليد</translation>
+    </message>
+    <message>
+        <source>Digital Touch message</source>
+        <extracomment>Digital Touch is a name.</extracomment>
+        <translation>رسالة Digital Touch</translation>
+    </message>
+    <message>
+        <source>Payment</source>
+        <translation>دفعة</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <extracomment>Where somebody is.</extracomment>
+        <translation>الموقع</translation>
+    </message>
+    <message>
+        <source>Fitness message</source>
+        <extracomment>From the app that counts steps and training.</extracomment>
+        <translation>رسالة اللياقة</translation>
+    </message>
+    <message>
+        <source>Shared photos</source>
+        <translation>صور مشتركة</translation>
+    </message>
+    <message>
+        <source>Check In</source>
+        <extracomment>An app tells others that somebody has arrived safely.</extracomment>
+        <translation>تسجيل الوصول</translation>
+    </message>
+    <message>
+        <source>Poll</source>
+        <translation>استطلاع</translation>
+    </message>
+    <message>
+        <source>App message</source>
+        <translation>رسالة من تطبيق</translation>
+    </message>
+    <message>
+        <source>One attachment was never downloaded to the phone.</source>
+        <translation>لم يتم تنزيل أحد المرفقات على الهاتف قط.</translation>
+    </message>
+    <message>
+        <source>%1 attachments were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>عدد المرفقات التي لم يتم تنزيلها على الهاتف قط: %1.</translation>
+    </message>
+    <message>
+        <source>%1: the table of conversations is damaged (%2); some messages may be missing.</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1: جدول المحادثات تالف (%2)؛ قد تكون بعض الرسائل مفقودة.</translation>
+    </message>
+    <message>
+        <source>%1: some messages cannot be read, the database is damaged (%2).</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1: تتعذر قراءة بعض الرسائل، قاعدة البيانات تالفة (%2).</translation>
+    </message>
+    <message>
+        <source>The backup has no %1.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>النسخة الاحتياطية لا تحتوي على %1.</translation>
+    </message>
+    <message>
+        <source>%1 of the backup is not of a kind that can be read.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>الملف %1 في النسخة الاحتياطية ليس من نوع تمكن قراءته.</translation>
+    </message>
+    <message>
+        <source>this is no database of a kind that can be read; it has the tables %1</source>
+        <extracomment>Follows the name of the file and a colon; %1 is a list of names.</extracomment>
+        <translation>هذه ليست قاعدة بيانات من نوع تمكن قراءته؛ الجداول الموجودة فيها: %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,579 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>DataExport</name>
+    <message>
+        <source>%1&apos;s %2</source>
+        <extracomment>Title of a page: %1 is a person&apos;s name, %2 the name of a category, such as Messages.</extracomment>
+        <translation>%2 von %1</translation>
+    </message>
+    <message>
+        <source>in common use</source>
+        <extracomment>Part of a file name, after the category: contacts in a form that any program reads.</extracomment>
+        <translation>zur allgemeinen Verwendung</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <extracomment>Column: the text of a message.</extracomment>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>Empfangen</translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation>Name: %1</translation>
+    </message>
+    <message>
+        <source>Phone: %1</source>
+        <translation>Telefon: %1</translation>
+    </message>
+    <message>
+        <source>Email: %1</source>
+        <translation>E-Mail: %1</translation>
+    </message>
+    <message>
+        <source>Date: %1</source>
+        <translation>Datum: %1</translation>
+    </message>
+    <message>
+        <source>Chat</source>
+        <extracomment>Column: the name of a conversation.</extracomment>
+        <translation>Chat</translation>
+    </message>
+    <message>
+        <source>Chat: %1</source>
+        <translation>Chat: %1</translation>
+    </message>
+    <message>
+        <source>Group Event</source>
+        <extracomment>Of a line in a conversation: somebody joined, left, and the like.</extracomment>
+        <translation>Gruppenereignis</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <extracomment>Of a message that could not be sent.</extracomment>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Wechat ID</source>
+        <extracomment>The name by which a person can be found there.</extracomment>
+        <translation>WeChat-ID</translation>
+    </message>
+    <message>
+        <source>WXID</source>
+        <extracomment>The inner name of an account; not to be translated.</extracomment>
+        <translation>WXID</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>What&apos;s Up</source>
+        <extracomment>A line that a person shows beside the name.</extracomment>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>mobile</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>Mobil</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>Privat</translation>
+    </message>
+    <message>
+        <source>work</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>Arbeit</translation>
+    </message>
+    <message>
+        <source>anniversary</source>
+        <extracomment>Label of a date: a day that returns each year, not a birthday.</extracomment>
+        <translation>Jahrestag</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>Andere</translation>
+    </message>
+    <message>
+        <source>main</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>Hauptnummer</translation>
+    </message>
+    <message>
+        <source>other fax</source>
+        <translation>Anderes Fax</translation>
+    </message>
+    <message>
+        <source>home fax</source>
+        <translation>Fax privat</translation>
+    </message>
+    <message>
+        <source>work fax</source>
+        <translation>Fax Arbeit</translation>
+    </message>
+    <message>
+        <source>pager</source>
+        <translation>Pager</translation>
+    </message>
+    <message>
+        <source>home page</source>
+        <extracomment>Label of a web address.</extracomment>
+        <translation>Homepage</translation>
+    </message>
+    <message>
+        <source>mother</source>
+        <translation>Mutter</translation>
+    </message>
+    <message>
+        <source>father</source>
+        <translation>Vater</translation>
+    </message>
+    <message>
+        <source>parent</source>
+        <extracomment>Mother or father.</extracomment>
+        <translation>Elternteil</translation>
+    </message>
+    <message>
+        <source>brother</source>
+        <translation>Bruder</translation>
+    </message>
+    <message>
+        <source>sister</source>
+        <translation>Schwester</translation>
+    </message>
+    <message>
+        <source>child</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>friend</source>
+        <extracomment>A woman or a man.</extracomment>
+        <translation>Freund/in</translation>
+    </message>
+    <message>
+        <source>spouse</source>
+        <translation>Ehepartner/in</translation>
+    </message>
+    <message>
+        <source>partner</source>
+        <extracomment>A woman or a man with whom somebody lives.</extracomment>
+        <translation>Partner/in</translation>
+    </message>
+    <message>
+        <source>assistant</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>Assistent/in</translation>
+    </message>
+    <message>
+        <source>manager</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>Vorgesetzte/r</translation>
+    </message>
+    <message>
+        <source>Twitter</source>
+        <translation>Twitter</translation>
+    </message>
+    <message>
+        <source>Facebook</source>
+        <translation>Facebook</translation>
+    </message>
+    <message>
+        <source>Flickr</source>
+        <translation>Flickr</translation>
+    </message>
+    <message>
+        <source>LinkedIn</source>
+        <translation>LinkedIn</translation>
+    </message>
+    <message>
+        <source>Myspace</source>
+        <translation>Myspace</translation>
+    </message>
+    <message>
+        <source>Sina Weibo</source>
+        <translation>Sina Weibo</translation>
+    </message>
+    <message>
+        <source>birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>Geburtstag</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>Schule</translation>
+    </message>
+    <message>
+        <source>Elder Brother</source>
+        <translation>Älterer Bruder</translation>
+    </message>
+    <message>
+        <source>Elder Sister</source>
+        <translation>Ältere Schwester</translation>
+    </message>
+    <message>
+        <source>Younger Brother</source>
+        <translation>Jüngerer Bruder</translation>
+    </message>
+    <message>
+        <source>Younger Sister</source>
+        <translation>Jüngere Schwester</translation>
+    </message>
+    <message>
+        <source>Husband</source>
+        <translation>Ehemann</translation>
+    </message>
+    <message>
+        <source>Wife</source>
+        <translation>Ehefrau</translation>
+    </message>
+    <message>
+        <source>Son</source>
+        <translation>Sohn</translation>
+    </message>
+    <message>
+        <source>Daughter</source>
+        <translation>Tochter</translation>
+    </message>
+    <message>
+        <source>Colleague</source>
+        <translation>Kollege/Kollegin</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <extracomment>A postal address.</extracomment>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Related Name</source>
+        <extracomment>A person who belongs to this one: mother, assistant and so on.</extracomment>
+        <translation>Zugehöriger Name</translation>
+    </message>
+    <message>
+        <source>Social Profile</source>
+        <translation>Soziales Profil</translation>
+    </message>
+    <message>
+        <source>Instant Message</source>
+        <extracomment>Heading over accounts of messengers.</extracomment>
+        <translation>Sofortnachricht</translation>
+    </message>
+    <message>
+        <source>Birthday</source>
+        <translation>Geburtstag</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Reading List</source>
+        <extracomment>Pages to be read later, in the browser.</extracomment>
+        <translation>Leseliste</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>Pages that were visited, in the browser.</extracomment>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <extracomment>Of a note that only its password opens.</extracomment>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <extracomment>Who did something: stands for %1 in the lines below.</extracomment>
+        <translation>Du</translation>
+    </message>
+    <message>
+        <source>you</source>
+        <extracomment>Who was added or removed: stands for %2 in two of the lines below.</extracomment>
+        <translation>dich</translation>
+    </message>
+    <message>
+        <source>Someone</source>
+        <extracomment>Stands for a person without name and number.</extracomment>
+        <translation>Unbekannte Person</translation>
+    </message>
+    <message>
+        <source>a message</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>eine Nachricht</translation>
+    </message>
+    <message>
+        <source>an attachment</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>einen Anhang</translation>
+    </message>
+    <message>
+        <source>%1 edited the message. Before: %2</source>
+        <extracomment>%1 may be &quot;You&quot;; %2 is what the message said, in quotation marks.</extracomment>
+        <translation>%1: Nachricht bearbeitet. Vorher: %2</translation>
+    </message>
+    <message>
+        <source>%1 placed a sticker on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Sticker auf %2 geklebt</translation>
+    </message>
+    <message>
+        <source>%1 loved %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A heart on a message.</extracomment>
+        <translation>%1: Reaktion mit Herz auf %2</translation>
+    </message>
+    <message>
+        <source>%1 liked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Reaktion mit Daumen hoch auf %2</translation>
+    </message>
+    <message>
+        <source>%1 disliked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Reaktion mit Daumen runter auf %2</translation>
+    </message>
+    <message>
+        <source>%1 laughed at %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Reaktion mit Haha auf %2</translation>
+    </message>
+    <message>
+        <source>%1 emphasized %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. Exclamation marks on a message.</extracomment>
+        <translation>%1: Reaktion mit Ausrufezeichen auf %2</translation>
+    </message>
+    <message>
+        <source>%1 questioned %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A question mark on a message.</extracomment>
+        <translation>%1: Reaktion mit Fragezeichen auf %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with a sticker to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Reaktion mit Sticker auf %2</translation>
+    </message>
+    <message>
+        <source>%1 voted on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a poll.</extracomment>
+        <translation>%1: Stimme abgegeben für %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with %2 to %3</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is an emoji.</extracomment>
+        <translation>%1: Reaktion mit %2 auf %3</translation>
+    </message>
+    <message>
+        <source>%1 reacted to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Reaktion auf %2</translation>
+    </message>
+    <message>
+        <source>%1 removed %2 from the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1: %2 aus der Unterhaltung entfernt</translation>
+    </message>
+    <message>
+        <source>%1 changed the phone number</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Telefonnummer geändert</translation>
+    </message>
+    <message>
+        <source>%1 added %2 to the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1: %2 zur Unterhaltung hinzugefügt</translation>
+    </message>
+    <message>
+        <source>%1 removed the name of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Name der Unterhaltung entfernt</translation>
+    </message>
+    <message>
+        <source>%1 named the conversation %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is the new name, in quotation marks.</extracomment>
+        <translation>%1: Unterhaltung %2 genannt</translation>
+    </message>
+    <message>
+        <source>%1 left the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Unterhaltung verlassen</translation>
+    </message>
+    <message>
+        <source>%1 changed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Gruppenfoto geändert</translation>
+    </message>
+    <message>
+        <source>%1 removed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Gruppenfoto entfernt</translation>
+    </message>
+    <message>
+        <source>%1 changed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Hintergrund der Unterhaltung geändert</translation>
+    </message>
+    <message>
+        <source>%1 removed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Hintergrund der Unterhaltung entfernt</translation>
+    </message>
+    <message>
+        <source>%1 changed the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Unterhaltung geändert</translation>
+    </message>
+    <message>
+        <source>%1 started sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Standortfreigabe begonnen</translation>
+    </message>
+    <message>
+        <source>%1 stopped sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Standortfreigabe beendet</translation>
+    </message>
+    <message>
+        <source>%1 kept an audio message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Audionachricht behalten</translation>
+    </message>
+    <message>
+        <source>%1 started a call or a shared activity</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Anruf oder gemeinsame Aktivität begonnen</translation>
+    </message>
+    <message>
+        <source>%1 unsent a message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: Nachricht zurückgezogen</translation>
+    </message>
+    <message>
+        <source>Handwritten message</source>
+        <translation>Handschriftliche Nachricht</translation>
+    </message>
+    <message>
+        <source>Digital Touch message</source>
+        <extracomment>Digital Touch is a name.</extracomment>
+        <translation>Digital Touch-Nachricht</translation>
+    </message>
+    <message>
+        <source>Payment</source>
+        <translation>Zahlung</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <extracomment>Where somebody is.</extracomment>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>Fitness message</source>
+        <extracomment>From the app that counts steps and training.</extracomment>
+        <translation>Fitness-Nachricht</translation>
+    </message>
+    <message>
+        <source>Shared photos</source>
+        <translation>Geteilte Fotos</translation>
+    </message>
+    <message>
+        <source>Check In</source>
+        <extracomment>An app tells others that somebody has arrived safely.</extracomment>
+        <translation>Wegbegleitung</translation>
+    </message>
+    <message>
+        <source>Poll</source>
+        <translation>Umfrage</translation>
+    </message>
+    <message>
+        <source>App message</source>
+        <translation>App-Nachricht</translation>
+    </message>
+    <message>
+        <source>One attachment was never downloaded to the phone.</source>
+        <translation>Ein Anhang wurde nie auf das Telefon geladen.</translation>
+    </message>
+    <message>
+        <source>%1 attachments were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 Anhänge wurden nie auf das Telefon geladen.</translation>
+    </message>
+    <message>
+        <source>%1: the table of conversations is damaged (%2); some messages may be missing.</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1: Die Tabelle der Unterhaltungen ist beschädigt (%2); einige Nachrichten fehlen vielleicht.</translation>
+    </message>
+    <message>
+        <source>%1: some messages cannot be read, the database is damaged (%2).</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1: Einige Nachrichten können nicht gelesen werden, die Datenbank ist beschädigt (%2).</translation>
+    </message>
+    <message>
+        <source>The backup has no %1.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Im Backup fehlt %1.</translation>
+    </message>
+    <message>
+        <source>%1 of the backup is not of a kind that can be read.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>%1 im Backup ist von keiner lesbaren Art.</translation>
+    </message>
+    <message>
+        <source>this is no database of a kind that can be read; it has the tables %1</source>
+        <extracomment>Follows the name of the file and a colon; %1 is a list of names.</extracomment>
+        <translation>dies ist keine Datenbank von einer lesbaren Art; sie hat die Tabellen %1</translation>
+    </message>
+</context>
+</TS>

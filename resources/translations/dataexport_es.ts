@@ -1,0 +1,579 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>DataExport</name>
+    <message>
+        <source>%1&apos;s %2</source>
+        <extracomment>Title of a page: %1 is a person&apos;s name, %2 the name of a category, such as Messages.</extracomment>
+        <translation>%2 de %1</translation>
+    </message>
+    <message>
+        <source>in common use</source>
+        <extracomment>Part of a file name, after the category: contacts in a form that any program reads.</extracomment>
+        <translation>para uso general</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Teléfono</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>Correo electrónico</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <extracomment>Column: the text of a message.</extracomment>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation>Nombre: %1</translation>
+    </message>
+    <message>
+        <source>Phone: %1</source>
+        <translation>Teléfono: %1</translation>
+    </message>
+    <message>
+        <source>Email: %1</source>
+        <translation>Correo electrónico: %1</translation>
+    </message>
+    <message>
+        <source>Date: %1</source>
+        <translation>Fecha: %1</translation>
+    </message>
+    <message>
+        <source>Chat</source>
+        <extracomment>Column: the name of a conversation.</extracomment>
+        <translation>Chat</translation>
+    </message>
+    <message>
+        <source>Chat: %1</source>
+        <translation>Chat: %1</translation>
+    </message>
+    <message>
+        <source>Group Event</source>
+        <extracomment>Of a line in a conversation: somebody joined, left, and the like.</extracomment>
+        <translation>Evento del grupo</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <extracomment>Of a message that could not be sent.</extracomment>
+        <translation>Fallido</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Wechat ID</source>
+        <extracomment>The name by which a person can be found there.</extracomment>
+        <translation>ID de WeChat</translation>
+    </message>
+    <message>
+        <source>WXID</source>
+        <extracomment>The inner name of an account; not to be translated.</extracomment>
+        <translation>WXID</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Región</translation>
+    </message>
+    <message>
+        <source>What&apos;s Up</source>
+        <extracomment>A line that a person shows beside the name.</extracomment>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>mobile</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>móvil</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>casa</translation>
+    </message>
+    <message>
+        <source>work</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>trabajo</translation>
+    </message>
+    <message>
+        <source>anniversary</source>
+        <extracomment>Label of a date: a day that returns each year, not a birthday.</extracomment>
+        <translation>aniversario</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>otro</translation>
+    </message>
+    <message>
+        <source>main</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>principal</translation>
+    </message>
+    <message>
+        <source>other fax</source>
+        <translation>otro fax</translation>
+    </message>
+    <message>
+        <source>home fax</source>
+        <translation>fax de casa</translation>
+    </message>
+    <message>
+        <source>work fax</source>
+        <translation>fax del trabajo</translation>
+    </message>
+    <message>
+        <source>pager</source>
+        <translation>localizador</translation>
+    </message>
+    <message>
+        <source>home page</source>
+        <extracomment>Label of a web address.</extracomment>
+        <translation>página web</translation>
+    </message>
+    <message>
+        <source>mother</source>
+        <translation>madre</translation>
+    </message>
+    <message>
+        <source>father</source>
+        <translation>padre</translation>
+    </message>
+    <message>
+        <source>parent</source>
+        <extracomment>Mother or father.</extracomment>
+        <translation>progenitor</translation>
+    </message>
+    <message>
+        <source>brother</source>
+        <translation>hermano</translation>
+    </message>
+    <message>
+        <source>sister</source>
+        <translation>hermana</translation>
+    </message>
+    <message>
+        <source>child</source>
+        <translation>hijo o hija</translation>
+    </message>
+    <message>
+        <source>friend</source>
+        <extracomment>A woman or a man.</extracomment>
+        <translation>amigo o amiga</translation>
+    </message>
+    <message>
+        <source>spouse</source>
+        <translation>cónyuge</translation>
+    </message>
+    <message>
+        <source>partner</source>
+        <extracomment>A woman or a man with whom somebody lives.</extracomment>
+        <translation>pareja</translation>
+    </message>
+    <message>
+        <source>assistant</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>asistente</translation>
+    </message>
+    <message>
+        <source>manager</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>superior</translation>
+    </message>
+    <message>
+        <source>Twitter</source>
+        <translation>Twitter</translation>
+    </message>
+    <message>
+        <source>Facebook</source>
+        <translation>Facebook</translation>
+    </message>
+    <message>
+        <source>Flickr</source>
+        <translation>Flickr</translation>
+    </message>
+    <message>
+        <source>LinkedIn</source>
+        <translation>LinkedIn</translation>
+    </message>
+    <message>
+        <source>Myspace</source>
+        <translation>Myspace</translation>
+    </message>
+    <message>
+        <source>Sina Weibo</source>
+        <translation>Sina Weibo</translation>
+    </message>
+    <message>
+        <source>birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>cumpleaños</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>Escuela</translation>
+    </message>
+    <message>
+        <source>Elder Brother</source>
+        <translation>Hermano mayor</translation>
+    </message>
+    <message>
+        <source>Elder Sister</source>
+        <translation>Hermana mayor</translation>
+    </message>
+    <message>
+        <source>Younger Brother</source>
+        <translation>Hermano menor</translation>
+    </message>
+    <message>
+        <source>Younger Sister</source>
+        <translation>Hermana menor</translation>
+    </message>
+    <message>
+        <source>Husband</source>
+        <translation>Marido</translation>
+    </message>
+    <message>
+        <source>Wife</source>
+        <translation>Esposa</translation>
+    </message>
+    <message>
+        <source>Son</source>
+        <translation>Hijo</translation>
+    </message>
+    <message>
+        <source>Daughter</source>
+        <translation>Hija</translation>
+    </message>
+    <message>
+        <source>Colleague</source>
+        <translation>Colega</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <extracomment>A postal address.</extracomment>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Related Name</source>
+        <extracomment>A person who belongs to this one: mother, assistant and so on.</extracomment>
+        <translation>Nombre relacionado</translation>
+    </message>
+    <message>
+        <source>Social Profile</source>
+        <translation>Perfil social</translation>
+    </message>
+    <message>
+        <source>Instant Message</source>
+        <extracomment>Heading over accounts of messengers.</extracomment>
+        <translation>Mensajería instantánea</translation>
+    </message>
+    <message>
+        <source>Birthday</source>
+        <translation>Cumpleaños</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Reading List</source>
+        <extracomment>Pages to be read later, in the browser.</extracomment>
+        <translation>Lista de lectura</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>Pages that were visited, in the browser.</extracomment>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <extracomment>Of a note that only its password opens.</extracomment>
+        <translation>Bloqueada</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <extracomment>Who did something: stands for %1 in the lines below.</extracomment>
+        <translation>Tú</translation>
+    </message>
+    <message>
+        <source>you</source>
+        <extracomment>Who was added or removed: stands for %2 in two of the lines below.</extracomment>
+        <translation>tú</translation>
+    </message>
+    <message>
+        <source>Someone</source>
+        <extracomment>Stands for a person without name and number.</extracomment>
+        <translation>Persona desconocida</translation>
+    </message>
+    <message>
+        <source>a message</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>un mensaje</translation>
+    </message>
+    <message>
+        <source>an attachment</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>un archivo adjunto</translation>
+    </message>
+    <message>
+        <source>%1 edited the message. Before: %2</source>
+        <extracomment>%1 may be &quot;You&quot;; %2 is what the message said, in quotation marks.</extracomment>
+        <translation>%1: mensaje editado. Antes: %2</translation>
+    </message>
+    <message>
+        <source>%1 placed a sticker on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: sticker puesto en %2</translation>
+    </message>
+    <message>
+        <source>%1 loved %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A heart on a message.</extracomment>
+        <translation>%1: reacción de corazón a %2</translation>
+    </message>
+    <message>
+        <source>%1 liked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reacción de pulgar hacia arriba a %2</translation>
+    </message>
+    <message>
+        <source>%1 disliked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reacción de pulgar hacia abajo a %2</translation>
+    </message>
+    <message>
+        <source>%1 laughed at %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reacción de risa a %2</translation>
+    </message>
+    <message>
+        <source>%1 emphasized %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. Exclamation marks on a message.</extracomment>
+        <translation>%1: reacción de exclamación a %2</translation>
+    </message>
+    <message>
+        <source>%1 questioned %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A question mark on a message.</extracomment>
+        <translation>%1: reacción de interrogación a %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with a sticker to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reacción con un sticker a %2</translation>
+    </message>
+    <message>
+        <source>%1 voted on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a poll.</extracomment>
+        <translation>%1: voto en %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with %2 to %3</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is an emoji.</extracomment>
+        <translation>%1: reacción %2 a %3</translation>
+    </message>
+    <message>
+        <source>%1 reacted to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reacción a %2</translation>
+    </message>
+    <message>
+        <source>%1 removed %2 from the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1: miembro eliminado de la conversación: %2</translation>
+    </message>
+    <message>
+        <source>%1 changed the phone number</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: número de teléfono cambiado</translation>
+    </message>
+    <message>
+        <source>%1 added %2 to the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1: miembro añadido a la conversación: %2</translation>
+    </message>
+    <message>
+        <source>%1 removed the name of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: nombre de la conversación eliminado</translation>
+    </message>
+    <message>
+        <source>%1 named the conversation %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is the new name, in quotation marks.</extracomment>
+        <translation>%1: conversación llamada %2</translation>
+    </message>
+    <message>
+        <source>%1 left the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: conversación abandonada</translation>
+    </message>
+    <message>
+        <source>%1 changed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: foto del grupo cambiada</translation>
+    </message>
+    <message>
+        <source>%1 removed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: foto del grupo eliminada</translation>
+    </message>
+    <message>
+        <source>%1 changed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: fondo de la conversación cambiado</translation>
+    </message>
+    <message>
+        <source>%1 removed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: fondo de la conversación eliminado</translation>
+    </message>
+    <message>
+        <source>%1 changed the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: conversación cambiada</translation>
+    </message>
+    <message>
+        <source>%1 started sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: ubicación compartida</translation>
+    </message>
+    <message>
+        <source>%1 stopped sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: ubicación ya no compartida</translation>
+    </message>
+    <message>
+        <source>%1 kept an audio message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: mensaje de audio conservado</translation>
+    </message>
+    <message>
+        <source>%1 started a call or a shared activity</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: llamada o actividad compartida iniciada</translation>
+    </message>
+    <message>
+        <source>%1 unsent a message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: envío de un mensaje anulado</translation>
+    </message>
+    <message>
+        <source>Handwritten message</source>
+        <translation>Mensaje escrito a mano</translation>
+    </message>
+    <message>
+        <source>Digital Touch message</source>
+        <extracomment>Digital Touch is a name.</extracomment>
+        <translation>Mensaje de Digital Touch</translation>
+    </message>
+    <message>
+        <source>Payment</source>
+        <translation>Pago</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <extracomment>Where somebody is.</extracomment>
+        <translation>Ubicación</translation>
+    </message>
+    <message>
+        <source>Fitness message</source>
+        <extracomment>From the app that counts steps and training.</extracomment>
+        <translation>Mensaje de Fitness</translation>
+    </message>
+    <message>
+        <source>Shared photos</source>
+        <translation>Fotos compartidas</translation>
+    </message>
+    <message>
+        <source>Check In</source>
+        <extracomment>An app tells others that somebody has arrived safely.</extracomment>
+        <translation>Acompañamiento</translation>
+    </message>
+    <message>
+        <source>Poll</source>
+        <translation>Encuesta</translation>
+    </message>
+    <message>
+        <source>App message</source>
+        <translation>Mensaje de app</translation>
+    </message>
+    <message>
+        <source>One attachment was never downloaded to the phone.</source>
+        <translation>Un archivo adjunto nunca se descargó en el teléfono.</translation>
+    </message>
+    <message>
+        <source>%1 attachments were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 archivos adjuntos nunca se descargaron en el teléfono.</translation>
+    </message>
+    <message>
+        <source>%1: the table of conversations is damaged (%2); some messages may be missing.</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1: la tabla de conversaciones está dañada (%2); pueden faltar algunos mensajes.</translation>
+    </message>
+    <message>
+        <source>%1: some messages cannot be read, the database is damaged (%2).</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1: algunos mensajes no se pueden leer, la base de datos está dañada (%2).</translation>
+    </message>
+    <message>
+        <source>The backup has no %1.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>La copia de seguridad no contiene %1.</translation>
+    </message>
+    <message>
+        <source>%1 of the backup is not of a kind that can be read.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>El archivo %1 de la copia de seguridad no es de un tipo legible.</translation>
+    </message>
+    <message>
+        <source>this is no database of a kind that can be read; it has the tables %1</source>
+        <extracomment>Follows the name of the file and a colon; %1 is a list of names.</extracomment>
+        <translation>no es una base de datos de un tipo legible; tiene las tablas %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,579 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>DataExport</name>
+    <message>
+        <source>%1&apos;s %2</source>
+        <extracomment>Title of a page: %1 is a person&apos;s name, %2 the name of a category, such as Messages.</extracomment>
+        <translation>%2 de %1</translation>
+    </message>
+    <message>
+        <source>in common use</source>
+        <extracomment>Part of a file name, after the category: contacts in a form that any program reads.</extracomment>
+        <translation>pour usage courant</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Téléphone</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <extracomment>Column: the text of a message.</extracomment>
+        <translation>Contenu</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation>Nom : %1</translation>
+    </message>
+    <message>
+        <source>Phone: %1</source>
+        <translation>Téléphone : %1</translation>
+    </message>
+    <message>
+        <source>Email: %1</source>
+        <translation>E-mail : %1</translation>
+    </message>
+    <message>
+        <source>Date: %1</source>
+        <translation>Date : %1</translation>
+    </message>
+    <message>
+        <source>Chat</source>
+        <extracomment>Column: the name of a conversation.</extracomment>
+        <translation>Discussion</translation>
+    </message>
+    <message>
+        <source>Chat: %1</source>
+        <translation>Discussion : %1</translation>
+    </message>
+    <message>
+        <source>Group Event</source>
+        <extracomment>Of a line in a conversation: somebody joined, left, and the like.</extracomment>
+        <translation>Événement du groupe</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <extracomment>Of a message that could not be sent.</extracomment>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Wechat ID</source>
+        <extracomment>The name by which a person can be found there.</extracomment>
+        <translation>Identifiant WeChat</translation>
+    </message>
+    <message>
+        <source>WXID</source>
+        <extracomment>The inner name of an account; not to be translated.</extracomment>
+        <translation>WXID</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Région</translation>
+    </message>
+    <message>
+        <source>What&apos;s Up</source>
+        <extracomment>A line that a person shows beside the name.</extracomment>
+        <translation>Statut</translation>
+    </message>
+    <message>
+        <source>mobile</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>mobile</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>domicile</translation>
+    </message>
+    <message>
+        <source>work</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>travail</translation>
+    </message>
+    <message>
+        <source>anniversary</source>
+        <extracomment>Label of a date: a day that returns each year, not a birthday.</extracomment>
+        <translation>date anniversaire</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>autre</translation>
+    </message>
+    <message>
+        <source>main</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>principal</translation>
+    </message>
+    <message>
+        <source>other fax</source>
+        <translation>autre fax</translation>
+    </message>
+    <message>
+        <source>home fax</source>
+        <translation>fax domicile</translation>
+    </message>
+    <message>
+        <source>work fax</source>
+        <translation>fax travail</translation>
+    </message>
+    <message>
+        <source>pager</source>
+        <translation>bipeur</translation>
+    </message>
+    <message>
+        <source>home page</source>
+        <extracomment>Label of a web address.</extracomment>
+        <translation>page d’accueil</translation>
+    </message>
+    <message>
+        <source>mother</source>
+        <translation>mère</translation>
+    </message>
+    <message>
+        <source>father</source>
+        <translation>père</translation>
+    </message>
+    <message>
+        <source>parent</source>
+        <extracomment>Mother or father.</extracomment>
+        <translation>parent</translation>
+    </message>
+    <message>
+        <source>brother</source>
+        <translation>frère</translation>
+    </message>
+    <message>
+        <source>sister</source>
+        <translation>sœur</translation>
+    </message>
+    <message>
+        <source>child</source>
+        <translation>enfant</translation>
+    </message>
+    <message>
+        <source>friend</source>
+        <extracomment>A woman or a man.</extracomment>
+        <translation>ami(e)</translation>
+    </message>
+    <message>
+        <source>spouse</source>
+        <translation>conjoint(e)</translation>
+    </message>
+    <message>
+        <source>partner</source>
+        <extracomment>A woman or a man with whom somebody lives.</extracomment>
+        <translation>partenaire</translation>
+    </message>
+    <message>
+        <source>assistant</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>assistant(e)</translation>
+    </message>
+    <message>
+        <source>manager</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>responsable</translation>
+    </message>
+    <message>
+        <source>Twitter</source>
+        <translation>Twitter</translation>
+    </message>
+    <message>
+        <source>Facebook</source>
+        <translation>Facebook</translation>
+    </message>
+    <message>
+        <source>Flickr</source>
+        <translation>Flickr</translation>
+    </message>
+    <message>
+        <source>LinkedIn</source>
+        <translation>LinkedIn</translation>
+    </message>
+    <message>
+        <source>Myspace</source>
+        <translation>Myspace</translation>
+    </message>
+    <message>
+        <source>Sina Weibo</source>
+        <translation>Sina Weibo</translation>
+    </message>
+    <message>
+        <source>birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>anniversaire</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>École</translation>
+    </message>
+    <message>
+        <source>Elder Brother</source>
+        <translation>Grand frère</translation>
+    </message>
+    <message>
+        <source>Elder Sister</source>
+        <translation>Grande sœur</translation>
+    </message>
+    <message>
+        <source>Younger Brother</source>
+        <translation>Petit frère</translation>
+    </message>
+    <message>
+        <source>Younger Sister</source>
+        <translation>Petite sœur</translation>
+    </message>
+    <message>
+        <source>Husband</source>
+        <translation>Mari</translation>
+    </message>
+    <message>
+        <source>Wife</source>
+        <translation>Femme</translation>
+    </message>
+    <message>
+        <source>Son</source>
+        <translation>Fils</translation>
+    </message>
+    <message>
+        <source>Daughter</source>
+        <translation>Fille</translation>
+    </message>
+    <message>
+        <source>Colleague</source>
+        <translation>Collègue</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <extracomment>A postal address.</extracomment>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Related Name</source>
+        <extracomment>A person who belongs to this one: mother, assistant and so on.</extracomment>
+        <translation>Nom associé</translation>
+    </message>
+    <message>
+        <source>Social Profile</source>
+        <translation>Profil de réseau social</translation>
+    </message>
+    <message>
+        <source>Instant Message</source>
+        <extracomment>Heading over accounts of messengers.</extracomment>
+        <translation>Messagerie instantanée</translation>
+    </message>
+    <message>
+        <source>Birthday</source>
+        <translation>Anniversaire</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Reading List</source>
+        <extracomment>Pages to be read later, in the browser.</extracomment>
+        <translation>Liste de lecture</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>Pages that were visited, in the browser.</extracomment>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <extracomment>Of a note that only its password opens.</extracomment>
+        <translation>Verrouillée</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <extracomment>Who did something: stands for %1 in the lines below.</extracomment>
+        <translation>Vous</translation>
+    </message>
+    <message>
+        <source>you</source>
+        <extracomment>Who was added or removed: stands for %2 in two of the lines below.</extracomment>
+        <translation>vous</translation>
+    </message>
+    <message>
+        <source>Someone</source>
+        <extracomment>Stands for a person without name and number.</extracomment>
+        <translation>Personne inconnue</translation>
+    </message>
+    <message>
+        <source>a message</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>un message</translation>
+    </message>
+    <message>
+        <source>an attachment</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>une pièce jointe</translation>
+    </message>
+    <message>
+        <source>%1 edited the message. Before: %2</source>
+        <extracomment>%1 may be &quot;You&quot;; %2 is what the message said, in quotation marks.</extracomment>
+        <translation>%1 : message modifié. Avant : %2</translation>
+    </message>
+    <message>
+        <source>%1 placed a sticker on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : autocollant posé sur %2</translation>
+    </message>
+    <message>
+        <source>%1 loved %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A heart on a message.</extracomment>
+        <translation>%1 : réaction cœur à %2</translation>
+    </message>
+    <message>
+        <source>%1 liked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : réaction pouce levé à %2</translation>
+    </message>
+    <message>
+        <source>%1 disliked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : réaction pouce baissé à %2</translation>
+    </message>
+    <message>
+        <source>%1 laughed at %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : réaction haha à %2</translation>
+    </message>
+    <message>
+        <source>%1 emphasized %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. Exclamation marks on a message.</extracomment>
+        <translation>%1 : réaction points d’exclamation à %2</translation>
+    </message>
+    <message>
+        <source>%1 questioned %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A question mark on a message.</extracomment>
+        <translation>%1 : réaction point d’interrogation à %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with a sticker to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : réaction par un autocollant à %2</translation>
+    </message>
+    <message>
+        <source>%1 voted on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a poll.</extracomment>
+        <translation>%1 : vote pour %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with %2 to %3</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is an emoji.</extracomment>
+        <translation>%1 : réaction %2 à %3</translation>
+    </message>
+    <message>
+        <source>%1 reacted to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : réaction à %2</translation>
+    </message>
+    <message>
+        <source>%1 removed %2 from the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1 : membre retiré de la conversation : %2</translation>
+    </message>
+    <message>
+        <source>%1 changed the phone number</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : numéro de téléphone modifié</translation>
+    </message>
+    <message>
+        <source>%1 added %2 to the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1 : membre ajouté à la conversation : %2</translation>
+    </message>
+    <message>
+        <source>%1 removed the name of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : nom de la conversation supprimé</translation>
+    </message>
+    <message>
+        <source>%1 named the conversation %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is the new name, in quotation marks.</extracomment>
+        <translation>%1 : conversation nommée %2</translation>
+    </message>
+    <message>
+        <source>%1 left the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : conversation quittée</translation>
+    </message>
+    <message>
+        <source>%1 changed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : photo du groupe modifiée</translation>
+    </message>
+    <message>
+        <source>%1 removed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : photo du groupe supprimée</translation>
+    </message>
+    <message>
+        <source>%1 changed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : arrière-plan de la conversation modifié</translation>
+    </message>
+    <message>
+        <source>%1 removed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : arrière-plan de la conversation supprimé</translation>
+    </message>
+    <message>
+        <source>%1 changed the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : conversation modifiée</translation>
+    </message>
+    <message>
+        <source>%1 started sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : partage de position commencé</translation>
+    </message>
+    <message>
+        <source>%1 stopped sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : partage de position arrêté</translation>
+    </message>
+    <message>
+        <source>%1 kept an audio message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : message audio conservé</translation>
+    </message>
+    <message>
+        <source>%1 started a call or a shared activity</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : appel ou activité partagée commencés</translation>
+    </message>
+    <message>
+        <source>%1 unsent a message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1 : envoi d’un message annulé</translation>
+    </message>
+    <message>
+        <source>Handwritten message</source>
+        <translation>Message manuscrit</translation>
+    </message>
+    <message>
+        <source>Digital Touch message</source>
+        <extracomment>Digital Touch is a name.</extracomment>
+        <translation>Message Digital Touch</translation>
+    </message>
+    <message>
+        <source>Payment</source>
+        <translation>Paiement</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <extracomment>Where somebody is.</extracomment>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Fitness message</source>
+        <extracomment>From the app that counts steps and training.</extracomment>
+        <translation>Message Forme</translation>
+    </message>
+    <message>
+        <source>Shared photos</source>
+        <translation>Photos partagées</translation>
+    </message>
+    <message>
+        <source>Check In</source>
+        <extracomment>An app tells others that somebody has arrived safely.</extracomment>
+        <translation>Accompagnement</translation>
+    </message>
+    <message>
+        <source>Poll</source>
+        <translation>Sondage</translation>
+    </message>
+    <message>
+        <source>App message</source>
+        <translation>Message d’app</translation>
+    </message>
+    <message>
+        <source>One attachment was never downloaded to the phone.</source>
+        <translation>Une pièce jointe n’a jamais été téléchargée sur le téléphone.</translation>
+    </message>
+    <message>
+        <source>%1 attachments were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 pièces jointes n’ont jamais été téléchargées sur le téléphone.</translation>
+    </message>
+    <message>
+        <source>%1: the table of conversations is damaged (%2); some messages may be missing.</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1 : la table des conversations est endommagée (%2) ; il peut manquer des messages.</translation>
+    </message>
+    <message>
+        <source>%1: some messages cannot be read, the database is damaged (%2).</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1 : certains messages sont illisibles, la base de données est endommagée (%2).</translation>
+    </message>
+    <message>
+        <source>The backup has no %1.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>La sauvegarde ne contient pas %1.</translation>
+    </message>
+    <message>
+        <source>%1 of the backup is not of a kind that can be read.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Le fichier %1 de la sauvegarde n’est pas d’un type lisible.</translation>
+    </message>
+    <message>
+        <source>this is no database of a kind that can be read; it has the tables %1</source>
+        <extracomment>Follows the name of the file and a colon; %1 is a list of names.</extracomment>
+        <translation>ce n’est pas une base de données d’un type lisible ; elle contient les tables %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,579 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>DataExport</name>
+    <message>
+        <source>%1&apos;s %2</source>
+        <extracomment>Title of a page: %1 is a person&apos;s name, %2 the name of a category, such as Messages.</extracomment>
+        <translation>%2 di %1</translation>
+    </message>
+    <message>
+        <source>in common use</source>
+        <extracomment>Part of a file name, after the category: contacts in a form that any program reads.</extracomment>
+        <translation>per uso comune</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation>Telefono</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <extracomment>Column: the text of a message.</extracomment>
+        <translation>Contenuto</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <translation>Sconosciuto</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>Inviato</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <extracomment>Of a message.</extracomment>
+        <translation>Ricevuto</translation>
+    </message>
+    <message>
+        <source>Name: %1</source>
+        <translation>Nome: %1</translation>
+    </message>
+    <message>
+        <source>Phone: %1</source>
+        <translation>Telefono: %1</translation>
+    </message>
+    <message>
+        <source>Email: %1</source>
+        <translation>E-mail: %1</translation>
+    </message>
+    <message>
+        <source>Date: %1</source>
+        <translation>Data: %1</translation>
+    </message>
+    <message>
+        <source>Chat</source>
+        <extracomment>Column: the name of a conversation.</extracomment>
+        <translation>Chat</translation>
+    </message>
+    <message>
+        <source>Chat: %1</source>
+        <translation>Chat: %1</translation>
+    </message>
+    <message>
+        <source>Group Event</source>
+        <extracomment>Of a line in a conversation: somebody joined, left, and the like.</extracomment>
+        <translation>Evento di gruppo</translation>
+    </message>
+    <message>
+        <source>Fail</source>
+        <extracomment>Of a message that could not be sent.</extracomment>
+        <translation>Non riuscito</translation>
+    </message>
+    <message>
+        <source>Detail</source>
+        <translation>Dettagli</translation>
+    </message>
+    <message>
+        <source>Alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>Wechat ID</source>
+        <extracomment>The name by which a person can be found there.</extracomment>
+        <translation>ID WeChat</translation>
+    </message>
+    <message>
+        <source>WXID</source>
+        <extracomment>The inner name of an account; not to be translated.</extracomment>
+        <translation>WXID</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Regione</translation>
+    </message>
+    <message>
+        <source>What&apos;s Up</source>
+        <extracomment>A line that a person shows beside the name.</extracomment>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>mobile</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>cellulare</translation>
+    </message>
+    <message>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <source>home</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>abitazione</translation>
+    </message>
+    <message>
+        <source>work</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>lavoro</translation>
+    </message>
+    <message>
+        <source>anniversary</source>
+        <extracomment>Label of a date: a day that returns each year, not a birthday.</extracomment>
+        <translation>anniversario</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <extracomment>Label of a number, an address and the like.</extracomment>
+        <translation>altro</translation>
+    </message>
+    <message>
+        <source>main</source>
+        <extracomment>Label of a telephone number.</extracomment>
+        <translation>principale</translation>
+    </message>
+    <message>
+        <source>other fax</source>
+        <translation>altro fax</translation>
+    </message>
+    <message>
+        <source>home fax</source>
+        <translation>fax abitazione</translation>
+    </message>
+    <message>
+        <source>work fax</source>
+        <translation>fax lavoro</translation>
+    </message>
+    <message>
+        <source>pager</source>
+        <translation>cercapersone</translation>
+    </message>
+    <message>
+        <source>home page</source>
+        <extracomment>Label of a web address.</extracomment>
+        <translation>pagina web</translation>
+    </message>
+    <message>
+        <source>mother</source>
+        <translation>madre</translation>
+    </message>
+    <message>
+        <source>father</source>
+        <translation>padre</translation>
+    </message>
+    <message>
+        <source>parent</source>
+        <extracomment>Mother or father.</extracomment>
+        <translation>genitore</translation>
+    </message>
+    <message>
+        <source>brother</source>
+        <translation>fratello</translation>
+    </message>
+    <message>
+        <source>sister</source>
+        <translation>sorella</translation>
+    </message>
+    <message>
+        <source>child</source>
+        <translation>figlio o figlia</translation>
+    </message>
+    <message>
+        <source>friend</source>
+        <extracomment>A woman or a man.</extracomment>
+        <translation>amico o amica</translation>
+    </message>
+    <message>
+        <source>spouse</source>
+        <translation>coniuge</translation>
+    </message>
+    <message>
+        <source>partner</source>
+        <extracomment>A woman or a man with whom somebody lives.</extracomment>
+        <translation>partner</translation>
+    </message>
+    <message>
+        <source>assistant</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>assistente</translation>
+    </message>
+    <message>
+        <source>manager</source>
+        <extracomment>A person at work.</extracomment>
+        <translation>responsabile</translation>
+    </message>
+    <message>
+        <source>Twitter</source>
+        <translation>Twitter</translation>
+    </message>
+    <message>
+        <source>Facebook</source>
+        <translation>Facebook</translation>
+    </message>
+    <message>
+        <source>Flickr</source>
+        <translation>Flickr</translation>
+    </message>
+    <message>
+        <source>LinkedIn</source>
+        <translation>LinkedIn</translation>
+    </message>
+    <message>
+        <source>Myspace</source>
+        <translation>Myspace</translation>
+    </message>
+    <message>
+        <source>Sina Weibo</source>
+        <translation>Sina Weibo</translation>
+    </message>
+    <message>
+        <source>birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>compleanno</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>Scuola</translation>
+    </message>
+    <message>
+        <source>Elder Brother</source>
+        <translation>Fratello maggiore</translation>
+    </message>
+    <message>
+        <source>Elder Sister</source>
+        <translation>Sorella maggiore</translation>
+    </message>
+    <message>
+        <source>Younger Brother</source>
+        <translation>Fratello minore</translation>
+    </message>
+    <message>
+        <source>Younger Sister</source>
+        <translation>Sorella minore</translation>
+    </message>
+    <message>
+        <source>Husband</source>
+        <translation>Marito</translation>
+    </message>
+    <message>
+        <source>Wife</source>
+        <translation>Moglie</translation>
+    </message>
+    <message>
+        <source>Son</source>
+        <translation>Figlio</translation>
+    </message>
+    <message>
+        <source>Daughter</source>
+        <translation>Figlia</translation>
+    </message>
+    <message>
+        <source>Colleague</source>
+        <translation>Collega</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <extracomment>A postal address.</extracomment>
+        <translation>Indirizzo</translation>
+    </message>
+    <message>
+        <source>URL</source>
+        <translation>URL</translation>
+    </message>
+    <message>
+        <source>Related Name</source>
+        <extracomment>A person who belongs to this one: mother, assistant and so on.</extracomment>
+        <translation>Nome correlato</translation>
+    </message>
+    <message>
+        <source>Social Profile</source>
+        <translation>Profilo social</translation>
+    </message>
+    <message>
+        <source>Instant Message</source>
+        <extracomment>Heading over accounts of messengers.</extracomment>
+        <translation>Messaggistica istantanea</translation>
+    </message>
+    <message>
+        <source>Birthday</source>
+        <translation>Compleanno</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Reading List</source>
+        <extracomment>Pages to be read later, in the browser.</extracomment>
+        <translation>Elenco lettura</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <extracomment>Pages that were visited, in the browser.</extracomment>
+        <translation>Cronologia</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <extracomment>Of a note that only its password opens.</extracomment>
+        <translation>Bloccata</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <extracomment>Who did something: stands for %1 in the lines below.</extracomment>
+        <translation>Tu</translation>
+    </message>
+    <message>
+        <source>you</source>
+        <extracomment>Who was added or removed: stands for %2 in two of the lines below.</extracomment>
+        <translation>tu</translation>
+    </message>
+    <message>
+        <source>Someone</source>
+        <extracomment>Stands for a person without name and number.</extracomment>
+        <translation>Persona sconosciuta</translation>
+    </message>
+    <message>
+        <source>a message</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>un messaggio</translation>
+    </message>
+    <message>
+        <source>an attachment</source>
+        <extracomment>What a reaction is about.</extracomment>
+        <translation>un allegato</translation>
+    </message>
+    <message>
+        <source>%1 edited the message. Before: %2</source>
+        <extracomment>%1 may be &quot;You&quot;; %2 is what the message said, in quotation marks.</extracomment>
+        <translation>%1: messaggio modificato. Prima: %2</translation>
+    </message>
+    <message>
+        <source>%1 placed a sticker on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: adesivo messo su %2</translation>
+    </message>
+    <message>
+        <source>%1 loved %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A heart on a message.</extracomment>
+        <translation>%1: reazione con un cuore a %2</translation>
+    </message>
+    <message>
+        <source>%1 liked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reazione con un pollice in su a %2</translation>
+    </message>
+    <message>
+        <source>%1 disliked %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reazione con un pollice in giù a %2</translation>
+    </message>
+    <message>
+        <source>%1 laughed at %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reazione con una risata a %2</translation>
+    </message>
+    <message>
+        <source>%1 emphasized %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. Exclamation marks on a message.</extracomment>
+        <translation>%1: reazione con punti esclamativi a %2</translation>
+    </message>
+    <message>
+        <source>%1 questioned %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. A question mark on a message.</extracomment>
+        <translation>%1: reazione con un punto interrogativo a %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with a sticker to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reazione con un adesivo a %2</translation>
+    </message>
+    <message>
+        <source>%1 voted on %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a poll.</extracomment>
+        <translation>%1: voto su %2</translation>
+    </message>
+    <message>
+        <source>%1 reacted with %2 to %3</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is an emoji.</extracomment>
+        <translation>%1: reazione con %2 a %3</translation>
+    </message>
+    <message>
+        <source>%1 reacted to %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: reazione a %2</translation>
+    </message>
+    <message>
+        <source>%1 removed %2 from the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1: membro rimosso dalla conversazione: %2</translation>
+    </message>
+    <message>
+        <source>%1 changed the phone number</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: numero di telefono cambiato</translation>
+    </message>
+    <message>
+        <source>%1 added %2 to the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is a name, or &quot;you&quot;.</extracomment>
+        <translation>%1: membro aggiunto alla conversazione: %2</translation>
+    </message>
+    <message>
+        <source>%1 removed the name of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: nome della conversazione rimosso</translation>
+    </message>
+    <message>
+        <source>%1 named the conversation %2</source>
+        <extracomment>%1 is a name, or &quot;You&quot;. %2 is the new name, in quotation marks.</extracomment>
+        <translation>%1: conversazione chiamata %2</translation>
+    </message>
+    <message>
+        <source>%1 left the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: conversazione abbandonata</translation>
+    </message>
+    <message>
+        <source>%1 changed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: foto del gruppo cambiata</translation>
+    </message>
+    <message>
+        <source>%1 removed the group photo</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: foto del gruppo rimossa</translation>
+    </message>
+    <message>
+        <source>%1 changed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: sfondo della conversazione cambiato</translation>
+    </message>
+    <message>
+        <source>%1 removed the background of the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: sfondo della conversazione rimosso</translation>
+    </message>
+    <message>
+        <source>%1 changed the conversation</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: conversazione modificata</translation>
+    </message>
+    <message>
+        <source>%1 started sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: condivisione della posizione iniziata</translation>
+    </message>
+    <message>
+        <source>%1 stopped sharing the location</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: condivisione della posizione interrotta</translation>
+    </message>
+    <message>
+        <source>%1 kept an audio message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: messaggio audio conservato</translation>
+    </message>
+    <message>
+        <source>%1 started a call or a shared activity</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: chiamata o attività condivisa iniziata</translation>
+    </message>
+    <message>
+        <source>%1 unsent a message</source>
+        <extracomment>%1 is a name, or &quot;You&quot;.</extracomment>
+        <translation>%1: invio di un messaggio annullato</translation>
+    </message>
+    <message>
+        <source>Handwritten message</source>
+        <translation>Messaggio scritto a mano</translation>
+    </message>
+    <message>
+        <source>Digital Touch message</source>
+        <extracomment>Digital Touch is a name.</extracomment>
+        <translation>Messaggio Digital Touch</translation>
+    </message>
+    <message>
+        <source>Payment</source>
+        <translation>Pagamento</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <extracomment>Where somebody is.</extracomment>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Fitness message</source>
+        <extracomment>From the app that counts steps and training.</extracomment>
+        <translation>Messaggio di Fitness</translation>
+    </message>
+    <message>
+        <source>Shared photos</source>
+        <translation>Foto condivise</translation>
+    </message>
+    <message>
+        <source>Check In</source>
+        <extracomment>An app tells others that somebody has arrived safely.</extracomment>
+        <translation>Ci sono</translation>
+    </message>
+    <message>
+        <source>Poll</source>
+        <translation>Sondaggio</translation>
+    </message>
+    <message>
+        <source>App message</source>
+        <translation>Messaggio di un’app</translation>
+    </message>
+    <message>
+        <source>One attachment was never downloaded to the phone.</source>
+        <translation>Un allegato non è mai stato scaricato sul telefono.</translation>
+    </message>
+    <message>
+        <source>%1 attachments were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 allegati non sono mai stati scaricati sul telefono.</translation>
+    </message>
+    <message>
+        <source>%1: the table of conversations is damaged (%2); some messages may be missing.</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1: la tabella delle conversazioni è danneggiata (%2); alcuni messaggi potrebbero mancare.</translation>
+    </message>
+    <message>
+        <source>%1: some messages cannot be read, the database is damaged (%2).</source>
+        <extracomment>%1 is a file, %2 what the database says.</extracomment>
+        <translation>%1: alcuni messaggi non si possono leggere, il database è danneggiato (%2).</translation>
+    </message>
+    <message>
+        <source>The backup has no %1.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Il backup non contiene %1.</translation>
+    </message>
+    <message>
+        <source>%1 of the backup is not of a kind that can be read.</source>
+        <extracomment>%1 is a file.</extracomment>
+        <translation>Il file %1 del backup non è di un tipo leggibile.</translation>
+    </message>
+    <message>
+        <source>this is no database of a kind that can be read; it has the tables %1</source>
+        <extracomment>Follows the name of the file and a colon; %1 is a list of names.</extracomment>
+        <translation>non è un database di un tipo leggibile; contiene le tabelle %1</translation>
+    </message>
+</context>
+</TS>
