@@ -6,8 +6,6 @@
 
 #include <QCoreApplication>
 
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <set>
 
@@ -15,10 +13,6 @@ namespace backup {
 
 namespace {
 
-// Messages that one scan keeps: some 100 bytes each with their text.
-constexpr std::size_t kBatchMessages = 500'000;
-// A table that would need more scans than this is read by the index.
-constexpr std::size_t kMostScans = 6;
 // Who has asked for this many conversations in a row will ask for the rest as well.
 constexpr std::size_t kStepsBeforeScan = 3;
 // Beyond a damaged page reading goes on behind it; pages hold few rows.
@@ -29,15 +23,6 @@ std::int64_t largestMessageId(const formats::Database& database)
     auto query = database.prepare("SELECT max(ROWID) FROM message"_L1);
     return query && query->next() ? query->integer(0) : 0;
 }
-
-struct InBatch {
-    static void call(sqlite3_context* context, int /*count*/, sqlite3_value** values)
-    {
-        const auto& test =
-            *static_cast<std::function<bool(std::int64_t)>*>(sqlite3_user_data(context));
-        sqlite3_result_int(context, test(sqlite3_value_int64(values[0])) ? 1 : 0);
-    }
-};
 
 } // namespace
 
@@ -120,8 +105,9 @@ void Membership::add(std::int64_t messageId, std::int32_t index)
 }
 
 ConversationRowsCache::ConversationRowsCache(const formats::Database& database,
-    const std::vector<Conversation>& conversations, Notices& notices)
-    : m_database(database), m_conversations(conversations), m_notices(notices), m_table(database)
+    const std::vector<Conversation>& conversations, Notices& notices, std::size_t batchMessages)
+    : m_database(database), m_conversations(conversations), m_notices(notices),
+      m_batchMessages(batchMessages), m_table(database)
 {
 }
 
@@ -129,11 +115,6 @@ ConversationRows ConversationRowsCache::take(std::size_t index)
 {
     readAttachmentIds();
     ConversationRows found = fetch(index);
-    for (MessageRow& row : found.rows) {
-        if (std::ranges::binary_search(m_attachmentIds, row.id)) {
-            row.bits |= HasAttachments;
-        }
-    }
     const auto order = [](const MessageRow& row) { return std::pair(row.date, row.id); };
     if (!std::ranges::is_sorted(found.rows, {}, order)) {
         std::ranges::sort(found.rows, {}, order);
@@ -149,30 +130,20 @@ ConversationRows ConversationRowsCache::fetch(std::size_t index)
     if (conversation.kind != ConversationKind::Chats) {
         return readMessages(conversation.messageIds);
     }
-    if ((index < m_batchBegin || index >= m_batchEnd) && worthAScan(index)) {
-        scanFrom(index);
+    const bool inOrder =
+        m_forwardSteps >= kStepsBeforeScan || m_conversations.size() <= kStepsBeforeScan;
+    if (m_scan == Scan::NotYet && inOrder) {
+        scan();
     }
-    if (index < m_batchBegin || index >= m_batchEnd) {
-        return walkIndex(conversation);
+    if (m_scan == Scan::Kept) {
+        return m_batch[index];
     }
-    ConversationRows& kept = m_batch[index - m_batchOffset];
-    if (m_keepsAll) {
-        return kept;
+    if (m_scan == Scan::Spilled && loadBatchOf(index)) {
+        // Given away: the memory is wanted for the objects that are made of it.
+        m_given[index - m_batchOffset] = true;
+        return std::move(m_batch[index - m_batchOffset]);
     }
-    // Given away: the memory is wanted for the objects that are made of it.
-    m_batchBegin = index + 1;
-    return std::move(kept);
-}
-
-bool ConversationRowsCache::worthAScan(std::size_t index)
-{
-    if (m_forwardSteps < kStepsBeforeScan && m_conversations.size() > kStepsBeforeScan) {
-        return false;
-    }
-    if (!m_membership) {
-        m_membership.emplace(m_database, m_conversations, m_notices);
-    }
-    return m_membership->total() <= kBatchMessages * kMostScans && index < m_conversations.size();
+    return walkIndex(conversation);
 }
 
 ConversationRows ConversationRowsCache::walkIndex(const Conversation& conversation)
@@ -186,6 +157,7 @@ ConversationRows ConversationRowsCache::walkIndex(const Conversation& conversati
     if (!complete) {
         return readMessages(idsOf(conversation));
     }
+    markAttachments(found);
     // A message in two chats of the conversation is there once.
     std::ranges::sort(found.rows, {}, &MessageRow::id);
     const auto sameId = [](const MessageRow& a, const MessageRow& b) { return a.id == b.id; };
@@ -207,6 +179,7 @@ ConversationRows ConversationRowsCache::readMessages(const std::vector<std::int6
     ConversationRows found;
     eachRow(m_table.select("message m WHERE m.ROWID = ?"_L1), messageIds,
         [&](const formats::Statement& row) { MessageTable::append(row, found); });
+    markAttachments(found);
     return found;
 }
 
@@ -232,26 +205,79 @@ bool ConversationRowsCache::eachRow(const QString& sql, const std::vector<std::i
     return complete;
 }
 
-void ConversationRowsCache::scanFrom(std::size_t index)
+void ConversationRowsCache::scan()
 {
-    m_batch.clear();
-    m_batchOffset = index;
-    m_batchBegin = index;
-    m_batchEnd = index;
-    std::size_t messages = 0;
-    while (m_batchEnd < m_conversations.size()) {
-        messages += m_membership->countOf(m_batchEnd);
-        if (messages > kBatchMessages && m_batchEnd > index) {
-            break;
+    m_membership.emplace(m_database, m_conversations, m_notices);
+    planBatches();
+    if (m_batchBegins.size() == 1) {
+        enterBatch(0);
+        for (std::size_t i = 0; i < m_batch.size(); ++i) {
+            m_batch[i].rows.reserve(m_membership->countOf(i));
         }
-        ++m_batchEnd;
+        m_scan = Scan::Kept;
+    } else {
+        m_spill.emplace(m_batchBegins.size());
+        m_scan = Scan::Spilled;
     }
-    m_keepsAll = m_membership->total() <= kBatchMessages;
-    m_batch.resize(m_batchEnd - m_batchBegin);
-    for (std::size_t i = 0; i < m_batch.size(); ++i) {
-        m_batch[i].rows.reserve(m_membership->countOf(m_batchBegin + i));
+    scanTable();
+    if (m_spill && !m_spill->finish()) {
+        m_spill.reset();
+        m_scan = Scan::Failed; // no room on the disk: the index serves, slower
     }
-    // A damaged page ends a scan; another one starts behind it.
+    m_membership.reset();
+}
+
+// As many neighbouring conversations as memory should hold; at least one.
+void ConversationRowsCache::planBatches()
+{
+    m_batchBegins = {0};
+    m_batchOf.resize(m_conversations.size());
+    std::size_t messages = 0;
+    for (std::size_t index = 0; index < m_conversations.size(); ++index) {
+        messages += m_membership->countOf(index);
+        if (messages > m_batchMessages && index > m_batchBegins.back()) {
+            m_batchBegins.push_back(index);
+            messages = m_membership->countOf(index);
+        }
+        m_batchOf[index] = static_cast<std::uint32_t>(m_batchBegins.size() - 1);
+    }
+}
+
+void ConversationRowsCache::enterBatch(std::size_t batch)
+{
+    m_batchOffset = m_batchBegins[batch];
+    const std::size_t end =
+        batch + 1 < m_batchBegins.size() ? m_batchBegins[batch + 1] : m_conversations.size();
+    m_batch.clear(); // first: two batches are never there together
+    m_batch.resize(end - m_batchOffset);
+    m_given.assign(m_batch.size(), false);
+}
+
+// Makes the batch of a conversation the one that memory holds. False where it cannot be read back.
+bool ConversationRowsCache::loadBatchOf(std::size_t index)
+{
+    const std::size_t at = index - m_batchOffset; // wraps where it lies before
+    if (at < m_batch.size() && !m_given[at]) {
+        return true;
+    }
+    const std::size_t batch = m_batchOf[index];
+    enterBatch(batch);
+    const bool complete = m_spill->read(batch, [this](std::int32_t conversation,
+                                                   const MessageRow& row, std::string_view text) {
+        ConversationRows& into = m_batch[static_cast<std::size_t>(conversation) - m_batchOffset];
+        into.rows.push_back(row);
+        into.rows.back().textStart = static_cast<std::uint32_t>(into.text.size());
+        into.text.append(text.substr(0, row.subjectSize + row.textSize));
+    });
+    if (!complete) {
+        m_batch.clear();
+    }
+    return complete;
+}
+
+// A damaged page ends a scan; another one starts behind it.
+void ConversationRowsCache::scanTable()
+{
     std::int64_t lastId = INT64_MIN;
     bool failed = false;
     scanRows(lastId, failed);
@@ -267,30 +293,10 @@ void ConversationRowsCache::scanFrom(std::size_t index)
     }
 }
 
-bool ConversationRowsCache::isInBatch(std::int64_t messageId) const
-{
-    const auto inRange = [this](std::int32_t index) {
-        return index >= static_cast<std::int32_t>(m_batchBegin)
-               && index < static_cast<std::int32_t>(m_batchEnd);
-    };
-    const std::int32_t index = m_membership->of(messageId);
-    return index == Membership::kSeveral
-               ? std::ranges::any_of(m_membership->severalOf(messageId), inRange)
-               : inRange(index);
-}
-
 // Rows above `lastId`, which becomes that of the last row read.
 void ConversationRowsCache::scanRows(std::int64_t& lastId, bool& failed)
 {
-    // Rows of other conversations are passed over before their columns are looked at.
-    std::function<bool(std::int64_t)> test = [&](std::int64_t id) {
-        lastId = id;
-        return isInBatch(id);
-    };
-    sqlite3_create_function_v2(m_database.handle(), "in_batch", 1, SQLITE_UTF8, &test,
-        InBatch::call, nullptr, nullptr, nullptr);
-    auto query =
-        m_database.prepare(m_table.select("message m WHERE m.ROWID > ? AND in_batch(m.ROWID)"_L1));
+    auto query = m_database.prepare(m_table.select("message m WHERE m.ROWID > ?"_L1));
     if (!query) {
         m_notices.add(query.error().text());
         failed = false;
@@ -298,6 +304,7 @@ void ConversationRowsCache::scanRows(std::int64_t& lastId, bool& failed)
     }
     query->bind(1, lastId);
     while (query->next()) {
+        lastId = query->integer(0);
         keep(*query);
     }
     noteFailure(*query);
@@ -307,16 +314,26 @@ void ConversationRowsCache::scanRows(std::int64_t& lastId, bool& failed)
 void ConversationRowsCache::keep(const formats::Statement& row)
 {
     const std::int64_t id = row.integer(0);
+    while (m_nextAttachment < m_attachmentIds.size() && m_attachmentIds[m_nextAttachment] < id) {
+        ++m_nextAttachment;
+    }
+    const bool hasAttachments =
+        m_nextAttachment < m_attachmentIds.size() && m_attachmentIds[m_nextAttachment] == id;
     const auto add = [&](std::int32_t index) {
         const auto at = static_cast<std::size_t>(index);
-        if (at >= m_batchBegin && at < m_batchEnd) {
-            MessageTable::append(row, m_batch[at - m_batchOffset]);
+        MessageRow* kept = nullptr;
+        if (m_spill) {
+            kept = &m_spill->add(m_batchOf[at], index, row);
+        } else {
+            MessageTable::append(row, m_batch[at]);
+            kept = &m_batch[at].rows.back();
         }
+        kept->bits = static_cast<std::uint8_t>(kept->bits | (hasAttachments ? HasAttachments : 0));
     };
     const std::int32_t index = m_membership->of(id);
     if (index == Membership::kSeveral) {
         std::ranges::for_each(m_membership->severalOf(id), add);
-    } else {
+    } else if (index != Membership::kNone) {
         add(index);
     }
 }
@@ -331,6 +348,15 @@ void ConversationRowsCache::readAttachmentIds()
         "SELECT DISTINCT message_id FROM message_attachment_join ORDER BY message_id"_L1);
     while (query && query->next()) {
         m_attachmentIds.push_back(query->integer(0));
+    }
+}
+
+void ConversationRowsCache::markAttachments(ConversationRows& found) const
+{
+    for (MessageRow& row : found.rows) {
+        if (std::ranges::binary_search(m_attachmentIds, row.id)) {
+            row.bits |= HasAttachments;
+        }
     }
 }
 

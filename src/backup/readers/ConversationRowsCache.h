@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backup/readers/RowSpill.h"
 #include "backup/readers/conversations.h"
 #include "backup/readers/message_rows.h"
 #include "formats/sqlite.h"
@@ -47,27 +48,37 @@ private:
 };
 
 /// Gets the rows of conversations out of the store. The rows of one conversation lie scattered over
-/// the table: who walks all conversations in order is served by scans of the table that keep as
-/// many of the following ones as fit; who asks here and there, by the index of each.
+/// the table: who walks all conversations in order is served by one scan of the table, however
+/// often they walk; who asks here and there, by the index of each.
 class ConversationRowsCache {
 public:
+    /// Messages that memory holds: some 100 bytes each with their text.
+    static constexpr std::size_t kBatchMessages = 250'000;
+
+    /// `batchMessages`: more than that many are put aside on disk, and held by batches of as many.
     ConversationRowsCache(const formats::Database& database,
-        const std::vector<Conversation>& conversations, Notices& notices);
+        const std::vector<Conversation>& conversations, Notices& notices,
+        std::size_t batchMessages = kBatchMessages);
 
     /// The rows of a conversation, in the order of date, then of arrival.
     ConversationRows take(std::size_t index);
 
 private:
+    enum class Scan { NotYet, Kept, Spilled, Failed };
+
     ConversationRows fetch(std::size_t index);
     ConversationRows walkIndex(const Conversation& conversation);
     std::vector<std::int64_t> idsOf(const Conversation& conversation);
     ConversationRows readMessages(const std::vector<std::int64_t>& messageIds);
-    bool worthAScan(std::size_t index);
-    void scanFrom(std::size_t index);
+    void scan();
+    void planBatches();
+    void scanTable();
     void scanRows(std::int64_t& lastId, bool& failed);
     void keep(const formats::Statement& row);
-    bool isInBatch(std::int64_t messageId) const;
+    void enterBatch(std::size_t batch);
+    bool loadBatchOf(std::size_t index);
     void readAttachmentIds();
+    void markAttachments(ConversationRows& found) const;
     bool eachRow(const QString& sql, const std::vector<std::int64_t>& keys,
         const std::function<void(const formats::Statement&)>& use);
     void noteFailure(const formats::Statement& query);
@@ -75,17 +86,22 @@ private:
     const formats::Database& m_database;
     const std::vector<Conversation>& m_conversations;
     Notices& m_notices;
+    std::size_t m_batchMessages;
     MessageTable m_table;
 
-    std::optional<Membership> m_membership;    // made at the first scan
     std::vector<std::int64_t> m_attachmentIds; // messages with attachments, ascending
     bool m_attachmentIdsRead = false;
-    std::size_t m_batchOffset = 0; // the first conversation of m_batch
-    std::size_t m_batchBegin = 0;  // conversations that are still there
-    std::size_t m_batchEnd = 0;
-    std::vector<ConversationRows> m_batch;
-    bool m_keepsAll = false; // all fit: they stay for a second round
-    std::size_t m_next = 0;  // the one after the last asked for
+    std::size_t m_nextAttachment = 0; // of the scan
+
+    Scan m_scan = Scan::NotYet;
+    std::optional<Membership> m_membership; // while the scan runs
+    std::vector<std::size_t> m_batchBegins; // the first conversation of each batch
+    std::vector<std::uint32_t> m_batchOf;   // by conversation
+    std::optional<RowSpill> m_spill;
+    std::vector<ConversationRows> m_batch; // the batch that memory holds
+    std::vector<bool> m_given;             // those of its rows that are no longer there
+    std::size_t m_batchOffset = 0;         // its first conversation
+    std::size_t m_next = 0;                // the one after the last asked for
     std::size_t m_forwardSteps = 0;
 };
 

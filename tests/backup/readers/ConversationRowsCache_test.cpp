@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace {
 
 constexpr int kConversations = 12;
@@ -31,16 +33,49 @@ protected:
                 .text = QString("message %1 ").arg(i) + QString(100, 'x'),
                 .handle = chat});
         }
+        builder.run("INSERT INTO message_attachment_join (message_id, attachment_id) "
+                    "VALUES (1, 1), (600, 2)");
         builder.run("COMMIT");
     }
 
-    void open()
+    // `batchMessages`: beyond that the rows are put aside on disk.
+    void open(std::size_t batchMessages = backup::ConversationRowsCache::kBatchMessages)
     {
         auto database = formats::Database::open(m_path, formats::OpenMode::Immutable);
         ASSERT_TRUE(database.has_value());
         m_database.emplace(std::move(*database));
         m_conversations = backup::readConversations(*m_database, backup::Handles(*m_database, {}));
-        m_cache.emplace(*m_database, m_conversations, m_notices);
+        m_cache.emplace(*m_database, m_conversations, m_notices, batchMessages);
+    }
+
+    void expectWalks(int rounds)
+    {
+        for (int round = 0; round < rounds; ++round) {
+            for (std::size_t i = 0; i < kConversations; ++i) {
+                EXPECT_EQ(numbers(i), expected(i)) << i;
+            }
+        }
+    }
+
+    // The messages with attachments, of a walk in order.
+    std::set<std::int64_t> markedIds()
+    {
+        std::set<std::int64_t> ids;
+        for (std::size_t i = 0; i < kConversations; ++i) {
+            for (const backup::MessageRow& row : m_cache->take(i).rows) {
+                const bool marked = (row.bits & backup::HasAttachments) != 0;
+                ids.insert(marked ? row.id : 0);
+            }
+        }
+        ids.erase(0);
+        return ids;
+    }
+
+    void expectAnyOrder()
+    {
+        for (const std::size_t i : {5, 0, 11, 11, 3, 4, 5, 6, 7, 2, 8, 9, 9, 0}) {
+            EXPECT_EQ(numbers(i), expected(i)) << i;
+        }
     }
 
     // The number of each message that is there.
@@ -93,29 +128,47 @@ protected:
     std::optional<backup::ConversationRowsCache> m_cache;
 };
 
-TEST_F(ConversationRowsCacheTest, WalkInOrderFindsEachMessageOnce)
+TEST_F(ConversationRowsCacheTest, EachWalkInOrderFindsEachMessageOnce)
 {
     open();
-    for (std::size_t i = 0; i < kConversations; ++i) {
-        EXPECT_EQ(numbers(i), expected(i)) << i;
-    }
-}
-
-TEST_F(ConversationRowsCacheTest, SecondWalkFindsTheSame)
-{
-    open();
-    for (int round = 0; round < 2; ++round) {
-        for (std::size_t i = 0; i < kConversations; ++i) {
-            EXPECT_EQ(numbers(i), expected(i)) << i;
-        }
-    }
+    expectWalks(2);
 }
 
 TEST_F(ConversationRowsCacheTest, AnyOrderFindsTheSame)
 {
     open();
-    for (const std::size_t i : {5, 0, 11, 11, 3, 4, 5, 6, 7, 2, 8, 9}) {
-        EXPECT_EQ(numbers(i), expected(i)) << i;
+    expectAnyOrder();
+}
+
+TEST_F(ConversationRowsCacheTest, RowsPutAsideOnDiskAreTheSame)
+{
+    for (const std::size_t batchMessages : {1, 49, 50, 120, 599}) {
+        SCOPED_TRACE(batchMessages);
+        open(batchMessages);
+        expectWalks(2);
+        expectAnyOrder();
+    }
+}
+
+TEST_F(ConversationRowsCacheTest, DiskWithoutRoomIsNoFailure)
+{
+    open(100);
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", m_directory.filePath("missing").toLocal8Bit());
+    expectWalks(2);
+    if (before.isNull()) {
+        qunsetenv("TMPDIR");
+    } else {
+        qputenv("TMPDIR", before);
+    }
+}
+
+TEST_F(ConversationRowsCacheTest, AttachmentsAreMarkedWhicheverWayRowsAreRead)
+{
+    for (const std::size_t batchMessages : {100, 1000}) {
+        open(batchMessages);
+        EXPECT_EQ(markedIds(), std::set<std::int64_t>({1, 600}));
+        EXPECT_EQ(markedIds(), std::set<std::int64_t>({1, 600}));
     }
 }
 
