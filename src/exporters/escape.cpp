@@ -4,11 +4,41 @@
 #include "platform/literals.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <string_view>
 
 namespace {
 
 constexpr std::u16string_view kForbiddenInFileNames = u"/\\:\"*?<>|\r\n";
+
+constexpr std::uint64_t bit(char16_t c)
+{
+    return std::uint64_t(1) << c;
+}
+
+// All that HTML escapes lies below 64.
+constexpr std::uint64_t kHtmlSpecial = bit(u'<') | bit(u'>') | bit(u'&') | bit(u'"') | bit(u'\n');
+
+bool isHtmlSpecial(QChar c)
+{
+    return c.unicode() < 64 && (kHtmlSpecial >> c.unicode() & 1) != 0;
+}
+
+QLatin1String htmlForm(QChar special)
+{
+    switch (special.unicode()) {
+    case u'<':
+        return "&lt;"_L1;
+    case u'>':
+        return "&gt;"_L1;
+    case u'&':
+        return "&amp;"_L1;
+    case u'"':
+        return "&quot;"_L1;
+    default:
+        return "<br>"_L1; // the line feed
+    }
+}
 
 } // namespace
 
@@ -36,8 +66,26 @@ QString csvQuote(const QString& text)
 
 QString htmlEscapeLines(const QString& text)
 {
-    // Escaped first, so that the tags stay tags.
-    return text.toHtmlEscaped().replace(QChar(u'\n'), "<br>"_L1);
+    if (std::none_of(text.begin(), text.end(), isHtmlSpecial)) {
+        return text;
+    }
+    QString html;
+    appendHtmlLines(html, text);
+    return html;
+}
+
+void appendHtmlLines(QString& page, QStringView text)
+{
+    const QChar* written = text.begin();
+    for (;;) {
+        const QChar* special = std::find_if(written, text.end(), isHtmlSpecial);
+        page.append(written, static_cast<int>(special - written));
+        if (special == text.end()) {
+            return;
+        }
+        page += htmlForm(*special);
+        written = special + 1;
+    }
 }
 
 void appendCsvEscaped(QString& row, const QString& text)
