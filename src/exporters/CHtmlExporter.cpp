@@ -33,7 +33,7 @@ constexpr QLatin1String kPageEnd = "</body></html>"_L1;
 
 // The stream encodes what it is given in one go and holds both forms meanwhile: a conversation of
 // a hundred megabytes goes out in pieces.
-constexpr qsizetype kPieceUnits = 32 * 1024;
+constexpr qsizetype kPieceUnits = 32'768;
 
 } // namespace
 
