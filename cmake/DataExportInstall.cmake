@@ -47,10 +47,9 @@ install(FILES
 install(EXPORT DataExportTargets NAMESPACE DataExport::
     DESTINATION "${DATAEXPORT_INSTALL_PACKAGE}")
 
-# OvResourceMgr looks for share/dataexport/DataExport above the library.
-install(DIRECTORY resources/DataExport
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/dataexport"
-    PATTERN README.md EXCLUDE)
+# OvResourceMgr looks for share/dataexport/DataExport above the library. The build drew the images.
+install(DIRECTORY "${CMAKE_BINARY_DIR}/resources/DataExport"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/dataexport")
 if(EXISTS "${CMAKE_SOURCE_DIR}/docs/dataexport.1")
     install(FILES docs/dataexport.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 endif()

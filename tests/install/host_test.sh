@@ -41,4 +41,8 @@ if [ -e "$program" ]; then
     ldd "$program" | grep -qF "=> $prefix/" || fail "the installed program runs with another library"
 fi
 [ -f "$prefix/share/doc/DataExport/LICENSE" ] || fail "there is no licence"
-[ -d "$prefix/share/dataexport/DataExport" ] || fail "there is no folder of images"
+for image in deleted.png message-top-l.png default/contact_person.png; do
+    [ -s "$prefix/share/dataexport/DataExport/$image" ] || fail "there is no image $image"
+done
+drawings=$(find "$prefix" -name '*.svg')
+[ -z "$drawings" ] || fail "these are sources of images: $drawings"
