@@ -3,6 +3,7 @@
 
 #include "cli/DumpCommand.h"
 #include "cli/ExportCommand.h"
+#include "cli/LanguageOption.h"
 #include "cli/ListCommand.h"
 #include "cli/exit_status.h"
 #include "platform/literals.h"
@@ -99,11 +100,19 @@ int runProgram(const std::vector<std::string>& arguments, Console& console)
     ListCommand list(program, console);
     ExportCommand exportFiles(program, console);
     DumpCommand dump(program, console);
+    LanguageOption language;
     for (CLI::App* command : program.get_subcommands({})) {
         command->group("Commands");
+        language.addTo(*command);
     }
     if (const auto status = parse(program, withEmptyValues(arguments), console)) {
         return *status;
+    }
+    // First of all: whatever a command reads or writes may ask for translations.
+    const QString objection = language.install();
+    if (!objection.isEmpty()) {
+        console.error(objection);
+        return NotStarted;
     }
     const std::array<Command*, 3> commands{&list, &exportFiles, &dump};
     // The parser has seen to it that there is one.

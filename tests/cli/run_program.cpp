@@ -17,11 +17,21 @@ namespace {
 
 constexpr int kLimitMs = 120'000; // nothing here takes a tenth of it
 
-void start(QProcess& process, const QString& folder, const QStringList& arguments)
+using Variables = QMap<QString, QString>;
+
+const Variables kPlainLocale{{"LC_ALL", "C"}};
+
+void start(QProcess& process, const QString& folder, const QStringList& arguments,
+    const Variables& locale = kPlainLocale)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("LC_ALL", "C");
-    environment.remove("QT_LOGGING_RULES");
+    for (const char* const name :
+        {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE", "QT_LOGGING_RULES"}) {
+        environment.remove(name);
+    }
+    for (auto variable = locale.begin(); variable != locale.end(); ++variable) {
+        environment.insert(variable.key(), variable.value());
+    }
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder);
     process.start(DATAEXPORT_PROGRAM, arguments);
@@ -69,8 +79,14 @@ QByteArray readToEnd(int descriptor)
 
 Outcome runProgramIn(const QString& folder, const QStringList& arguments)
 {
+    return runProgramIn(folder, arguments, kPlainLocale);
+}
+
+Outcome runProgramIn(
+    const QString& folder, const QStringList& arguments, const Variables& localeVariables)
+{
     QProcess process;
-    start(process, folder, arguments);
+    start(process, folder, arguments, localeVariables);
     EXPECT_TRUE(process.waitForFinished(kLimitMs));
     return result(process);
 }

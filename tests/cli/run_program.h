@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -14,6 +15,10 @@ struct Outcome {
 
 /// Runs the built program in `folder`, in the locale "C", to its end.
 Outcome runProgramIn(const QString& folder, const QStringList& arguments);
+
+/// The same in another locale: LC_ALL is not set, and these variables are.
+Outcome runProgramIn(const QString& folder, const QStringList& arguments,
+    const QMap<QString, QString>& localeVariables);
 
 /// The same; the first time that the program's errors hold `cue`, it gets the signal.
 Outcome interruptProgramIn(

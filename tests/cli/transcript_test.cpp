@@ -75,6 +75,7 @@ TEST_F(Transcript, HelpOfExportNamesItsOptions)
         "  --merge                 Write to a folder that is not empty\n"
         "  --verbose               Show what the library logs as well\n"
         "  --quiet                 Show nothing but errors\n"
+        "  --language CODE         The language of labels: de, fr, zh_TW ...\n"
         "\n" + kStatusHelp);
     EXPECT_EQ(help.status, AllDone);
 }
@@ -125,6 +126,12 @@ TEST_F(Transcript, WrongUsageIsToldAndNothingIsDone)
         Row{"a target that is a file", {"export", "anna.json", "anna.json"},
             "dataexport: anna.json: is not a folder\n"},
         Row{"an empty target", {"export", "anna.json", ""}, "dataexport: TARGET is empty\n"},
+        Row{"an unknown language", {"list", "anna.json", "--language", "tlh"},
+            "dataexport: --language: no language is called \"tlh\"; there are: ar, de, en, es, fr, "
+            "it, ja, ko, pt, zh_CN, zh_TW\n"},
+        Row{"no language at all", {"list", "anna.json", "--language="},
+            "dataexport: --language: no language is called \"\"; there are: ar, de, en, es, fr, "
+            "it, ja, ko, pt, zh_CN, zh_TW\n"},
         Row{"a dump over a file", {"dump", "anna.json", "anna.json"},
             "dataexport: anna.json: exists, and is not overwritten\n"},
     };

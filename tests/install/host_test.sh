@@ -39,6 +39,8 @@ program=$prefix/bin/dataexport
 if [ -e "$program" ]; then
     "$program" --help >/dev/null || fail "the installed program does not run"
     ldd "$program" | grep -qF "=> $prefix/" || fail "the installed program runs with another library"
+    languages=$("$program" list --language none "$work" 2>&1 || true)
+    [[ $languages == *" de, en, "* ]] || fail "the installed program has no translations: $languages"
 fi
 [ -f "$prefix/share/doc/DataExport/LICENSE" ] || fail "there is no licence"
 for image in deleted.png message-top-l.png default/contact_person.png; do
