@@ -25,13 +25,14 @@ public:
     virtual QString filePath() const { return m_content.path; }
     /// Replaces the path by that of a downloaded file, for good.
     virtual void setFilePath(const QString& path) { m_content.path = path; }
-    QString thumbFilePath() const { return m_content.thumbFile; }
+    /// Looked up likewise.
+    virtual QString thumbFilePath() const { return m_content.thumbFile; }
     QString thumbnail() const { return m_content.thumbnail; }
     // NOLINTNEXTLINE(readability-make-member-function-const): not const in the contract
     // NOLINTNEXTLINE(readability-make-member-function-const): the signature is agreed
     bool isThumbToMedia() { return m_content.thumbToMedia; }
     QString getDetailInfoDateTime() const { return m_content.detailDate; }
-    /// All but the path, which only `filePath` knows.
+    /// All but the paths, which only `filePath` and `thumbFilePath` know.
     const FileContent& contents() const { return m_content; }
 
 private:

@@ -24,8 +24,11 @@ public:
     explicit PRNoteItem(Record record = {}, std::vector<NotePiece> pieces = {});
     ~PRNoteItem() override;
 
-    const QList<NotePiece*>& notePieces() const { return m_pieces; }
-    const std::vector<NotePiece>& contents() const { return m_ownedPieces; }
+    /// A reader of a large store overrides it to load the pieces when they are asked for; the
+    /// result then holds until another note of the same store is asked for.
+    virtual const QList<NotePiece*>& notePieces() const { return m_pieces; }
+    /// Copies of the pieces. Such a reader leaves the previews away, whose paths tell them.
+    virtual std::vector<NotePiece> contents() const { return m_ownedPieces; }
 
 private:
     std::vector<NotePiece> m_ownedPieces;

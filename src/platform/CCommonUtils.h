@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/export.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QString>
 
-/// Dates, file names and files, as all exporters write them.
-class CCommonUtils {
+/// Dates, file names and files, as all exporters write them. Readers of backups stand outside the
+/// library and have dates written in the same way.
+class DATAEXPORT_EXPORT CCommonUtils {
 public:
     /// Start of 2001 in UTC plus `seconds`, to the millisecond. Invalid for what is no number or
     /// lies more than 285 million years off.

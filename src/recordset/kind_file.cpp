@@ -21,6 +21,7 @@ FileContent contentsOf(PRFileItem& item)
 {
     FileContent contents = item.contents();
     contents.path = item.filePath();
+    contents.thumbFile = item.thumbFilePath();
     return contents;
 }
 

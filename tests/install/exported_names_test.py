@@ -13,8 +13,8 @@ NM, LIBRARY = sys.argv[1], sys.argv[2]
 
 CONTRACT = re.compile(r"""
     (?: (?:typeinfo|typeinfo\ name|vtable)\ for\ |(?:non-)?virtual\ thunk\ to\ )?
-    (?: CBackupExporter | CContactHelper | CIProgressCallback | CSubProgress
-      | PR[A-Z]\w* | PathResolver | Ov[A-Z]\w* )
+    (?: CBackupExporter | CCommonUtils | CContactHelper | CIProgressCallback
+      | CSubProgress | PR[A-Z]\w* | PathResolver | Ov[A-Z]\w* )
     (?: ::.* )?""", re.VERBOSE)
 LOG = "Log(char const*, int, char const*, ...)"
 A_HOST_NEEDS = (

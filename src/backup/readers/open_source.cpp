@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "backup/container/LooseFiles.h"
 #include "backup/readers/MessageStore.h"
+#include "backup/readers/NoteStore.h"
+#include "backup/readers/OldNoteStore.h"
 #include "backup/readers/OpenedBackup.h"
+#include "backup/readers/note_data.h"
 #include "platform/literals.h"
 
 #include <QCoreApplication>
@@ -35,6 +38,32 @@ void addMessages(FoundDatabase found, OpenedBackup& opened)
     opened.sources.push_back(std::move(store));
 }
 
+// A device may have notes in several stores; they make one list.
+void addNoteStore(std::unique_ptr<NoteSource> store, OpenedBackup& opened)
+{
+    opened.sources.push_back(std::move(store));
+    std::vector<NoteSource*> stores;
+    for (const auto& source : opened.sources) {
+        if (auto* notes = dynamic_cast<NoteSource*>(source.get())) {
+            stores.push_back(notes);
+        }
+    }
+    opened.records.add(noteData(stores));
+    opened.records.add(noteFileData(std::move(stores)));
+}
+
+void addNotes(FoundDatabase found, OpenedBackup& opened)
+{
+    addNoteStore(
+        std::make_unique<NoteStore>(std::move(found.database), *opened.files, *opened.notices),
+        opened);
+}
+
+void addOldNotes(FoundDatabase found, OpenedBackup& opened)
+{
+    addNoteStore(std::make_unique<OldNoteStore>(std::move(found.database)), opened);
+}
+
 /// One place where a device keeps records. A kind that lies elsewhere on other releases has a row
 /// for each place; all of them are read.
 struct SourceRow {
@@ -48,6 +77,8 @@ struct SourceRow {
 // clang-format off
 constexpr std::array kSources{
     SourceRow{"HomeDomain"_L1, "Library/SMS/sms.db"_L1, true, MessageStore::isMessageStore, addMessages},
+    SourceRow{kNotesDomain, "NoteStore.sqlite"_L1, false, NoteStore::isNoteStore, addNotes},
+    SourceRow{"HomeDomain"_L1, "Library/Notes/notes.sqlite"_L1, false, OldNoteStore::isOldNoteStore, addOldNotes},
 };
 // clang-format on
 

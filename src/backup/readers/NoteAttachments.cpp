@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: MIT
+// Rows of ZICCLOUDSYNCINGOBJECT by their kind:
+//   ICAttachment              ZIDENTIFIER, ZTYPEUTI, ZNOTE, ZPARENTATTACHMENT, ZMEDIA -> ICMedia
+//   ICMedia                   ZIDENTIFIER, ZFILENAME, ZGENERATION1; in some stores the way to its
+//                             attachment instead, ZATTACHMENT<n>
+//   ICAttachmentPreviewImage  ZIDENTIFIER, ZATTACHMENT -> ICAttachment, ZWIDTH, ZHEIGHT, ZSCALE
+//   ICInlineAttachment        ZIDENTIFIER, ZALTTEXT
+#include "backup/readers/NoteAttachments.h"
+
+#include "backup/readers/core_data.h"
+
+namespace backup {
+
+namespace {
+
+constexpr QLatin1String kObjects = "ZICCLOUDSYNCINGOBJECT"_L1;
+
+enum AttachmentColumn : int {
+    Id,
+    Identifier,
+    NoteId,
+    ParentId,
+    Type,
+    Title,
+    Summary,
+    Url,
+    IsLocked,
+    Created,
+    ImageGeneration,
+    PdfGeneration,
+    MediaId,
+    MediaFileName,
+    MediaGeneration,
+};
+
+// An attachment, or nothing to read where the store has none of the kind.
+formats::Statement rowsOf(
+    const formats::Database& database, QLatin1String kind, const QString& select)
+{
+    const auto entity = entityNumber(database, kind);
+    auto query =
+        database.prepare(select + " WHERE o.Z_ENT = "_L1 + QString::number(entity.value_or(-1)));
+    return query ? std::move(*query) : formats::Statement();
+}
+
+NoteAttachment attachmentOf(const formats::Statement& row)
+{
+    return {
+        .id = row.integer(Id),
+        .noteId = row.integer(NoteId),
+        .parentId = row.integer(ParentId),
+        .identifier = row.text(Identifier),
+        .type = row.text(Type),
+        .title = row.text(Title),
+        .summary = row.text(Summary),
+        .url = row.text(Url),
+        .locked = row.integer(IsLocked) != 0,
+        .created = row.real(Created),
+        .imageGeneration = row.text(ImageGeneration),
+        .pdfGeneration = row.text(PdfGeneration),
+        .mediaId = row.text(MediaId),
+        .fileName = row.text(MediaFileName),
+        .mediaGeneration = row.text(MediaGeneration),
+        .previews = {},
+    };
+}
+
+} // namespace
+
+NoteAttachments::NoteAttachments(const formats::Database& database)
+{
+    readAttachments(database);
+    readMedia(database);
+    readPreviews(database);
+    readInlineTexts(database);
+    const TableColumns columns(database, kObjects);
+    auto query = database.prepare(
+        "SELECT "_L1 + columns.firstOf("o"_L1, {"ZMERGEABLEDATA1"_L1, "ZMERGEABLEDATA"_L1})
+        + " FROM ZICCLOUDSYNCINGOBJECT o WHERE o.Z_PK = ?"_L1);
+    if (query) {
+        m_tableData = std::move(*query);
+    }
+}
+
+void NoteAttachments::readAttachments(const formats::Database& database)
+{
+    const TableColumns columns(database, kObjects);
+    const QStringList selected{
+        "o.Z_PK"_L1,
+        columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}),
+        columns.firstOf("o"_L1, {"ZNOTE"_L1, "ZNOTE1"_L1}),
+        columns.firstOf("o"_L1, {"ZPARENTATTACHMENT"_L1, "ZPARENTATTACHMENT1"_L1}),
+        columns.firstOf("o"_L1, {"ZTYPEUTI"_L1, "ZTYPEUTI1"_L1}),
+        columns.firstOf("o"_L1, {"ZUSERTITLE"_L1, "ZTITLE"_L1}),
+        columns.firstOf("o"_L1, {"ZSUMMARY"_L1}),
+        columns.firstOf("o"_L1, {"ZURLSTRING"_L1}),
+        columns.firstOf("o"_L1, {"ZISPASSWORDPROTECTED"_L1}),
+        columns.firstOf("o"_L1, {"ZCREATIONDATE"_L1, "ZCREATIONDATE1"_L1, "ZCREATIONDATE3"_L1,
+                                    "ZMODIFICATIONDATE"_L1, "ZMODIFICATIONDATE1"_L1}),
+        columns.firstOf("o"_L1, {"ZFALLBACKIMAGEGENERATION"_L1}),
+        columns.firstOf("o"_L1, {"ZFALLBACKPDFGENERATION"_L1}),
+        columns.firstOf("m"_L1, {"ZIDENTIFIER"_L1}),
+        columns.firstOf("m"_L1, {"ZFILENAME"_L1}),
+        columns.firstOf("m"_L1, {"ZGENERATION1"_L1, "ZGENERATION"_L1}),
+    };
+    const QString media =
+        columns.has("ZMEDIA"_L1) ? QStringLiteral("o.ZMEDIA") : QStringLiteral("NULL");
+    auto rows = rowsOf(database, "ICAttachment"_L1,
+        "SELECT "_L1 + selected.join(QChar(u','))
+            + " FROM ZICCLOUDSYNCINGOBJECT o LEFT JOIN ZICCLOUDSYNCINGOBJECT m ON m.Z_PK = "_L1
+            + media);
+    while (rows.next()) {
+        const auto index = static_cast<int>(m_all.size());
+        m_all.push_back(attachmentOf(rows));
+        m_byId.insert(m_all.back().id, index);
+        m_byIdentifier.insert(m_all.back().identifier, index);
+    }
+}
+
+// Media that name their attachments.
+void NoteAttachments::readMedia(const formats::Database& database)
+{
+    const TableColumns columns(database, kObjects);
+    auto rows = rowsOf(database, "ICMedia"_L1,
+        "SELECT "_L1 + columns.firstOf("o"_L1, {"ZATTACHMENT1"_L1, "ZATTACHMENT"_L1}) + ","_L1
+            + columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}) + ","_L1
+            + columns.firstOf("o"_L1, {"ZFILENAME"_L1}) + ","_L1
+            + columns.firstOf("o"_L1, {"ZGENERATION1"_L1, "ZGENERATION"_L1})
+            + " FROM ZICCLOUDSYNCINGOBJECT o"_L1);
+    while (rows.next()) {
+        NoteAttachment* attachment = byId(rows.integer(0));
+        if (attachment != nullptr && attachment->mediaId.isEmpty()) {
+            attachment->mediaId = rows.text(1);
+            attachment->fileName = rows.text(2);
+            attachment->mediaGeneration = rows.text(3);
+        }
+    }
+}
+
+void NoteAttachments::readPreviews(const formats::Database& database)
+{
+    const TableColumns columns(database, kObjects);
+    const auto size = [&](QLatin1String name) {
+        return "coalesce("_L1 + columns.firstOf("o"_L1, {name}) + ",1)"_L1;
+    };
+    const QString select = "SELECT "_L1
+                           + columns.firstOf("o"_L1, {"ZATTACHMENT"_L1, "ZATTACHMENT1"_L1}) + ","_L1
+                           + columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}) + ","_L1
+                           + columns.firstOf("o"_L1, {"ZGENERATION"_L1, "ZGENERATION1"_L1})
+                           + " FROM ZICCLOUDSYNCINGOBJECT o"_L1;
+    const auto entity = entityNumber(database, "ICAttachmentPreviewImage"_L1);
+    auto rows =
+        database.prepare(select + " WHERE o.Z_ENT = "_L1 + QString::number(entity.value_or(-1))
+                         + " ORDER BY "_L1 + size("ZWIDTH"_L1) + " * "_L1 + size("ZHEIGHT"_L1)
+                         + " * "_L1 + size("ZSCALE"_L1) + " DESC, o.Z_PK"_L1);
+    while (rows && rows->next()) {
+        if (NoteAttachment* attachment = byId(rows->integer(0))) {
+            attachment->previews.push_back(
+                {.identifier = rows->text(1), .generation = rows->text(2)});
+        }
+    }
+}
+
+void NoteAttachments::readInlineTexts(const formats::Database& database)
+{
+    const TableColumns columns(database, kObjects);
+    auto rows = rowsOf(database, "ICInlineAttachment"_L1,
+        "SELECT "_L1 + columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}) + ","_L1
+            + columns.firstOf("o"_L1, {"ZALTTEXT"_L1}) + " FROM ZICCLOUDSYNCINGOBJECT o"_L1);
+    while (rows.next()) {
+        m_inlineTexts.insert(rows.text(0), rows.text(1));
+    }
+}
+
+NoteAttachment* NoteAttachments::byId(qint64 id)
+{
+    const auto found = m_byId.constFind(id);
+    return found != m_byId.cend() ? &m_all[static_cast<std::size_t>(*found)] : nullptr;
+}
+
+const NoteAttachment* NoteAttachments::find(const QString& identifier) const
+{
+    const auto found = m_byIdentifier.constFind(identifier);
+    return found != m_byIdentifier.cend() ? &m_all[static_cast<std::size_t>(*found)] : nullptr;
+}
+
+std::vector<const NoteAttachment*> NoteAttachments::childrenOf(const NoteAttachment& parent) const
+{
+    std::vector<const NoteAttachment*> children;
+    for (const NoteAttachment& attachment : m_all) {
+        if (attachment.parentId == parent.id && attachment.id != parent.id) {
+            children.push_back(&attachment);
+        }
+    }
+    return children;
+}
+
+qint64 NoteAttachments::noteOf(const NoteAttachment& attachment) const
+{
+    if (attachment.noteId != 0) {
+        return attachment.noteId;
+    }
+    const auto parent = m_byId.constFind(attachment.parentId);
+    return parent != m_byId.cend() ? m_all[static_cast<std::size_t>(*parent)].noteId : 0;
+}
+
+std::optional<QString> NoteAttachments::inlineText(const QString& identifier) const
+{
+    const auto found = m_inlineTexts.constFind(identifier);
+    return found != m_inlineTexts.cend() ? std::optional(*found) : std::nullopt;
+}
+
+QByteArray NoteAttachments::tableData(const NoteAttachment& attachment) const
+{
+    m_tableData.reset();
+    m_tableData.bind(1, attachment.id);
+    QByteArray data;
+    if (m_tableData.next()) {
+        data = m_tableData.blob(0);
+    }
+    m_tableData.reset();
+    return data;
+}
+
+} // namespace backup
