@@ -1,18 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "backup/container/LooseFiles.h"
+#include "backup/readers/BookmarkData.h"
+#include "backup/readers/CallData.h"
+#include "backup/readers/HistoryData.h"
 #include "backup/readers/MessageStore.h"
 #include "backup/readers/NoteStore.h"
 #include "backup/readers/OldNoteStore.h"
 #include "backup/readers/OpenedBackup.h"
+#include "backup/readers/ReminderData.h"
+#include "backup/readers/call_rows.h"
 #include "backup/readers/note_data.h"
+#include "backup/readers/reminder_rows.h"
+#include "backup/readers/safari_lists.h"
+#include "formats/plist.h"
 #include "platform/literals.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace backup {
 
@@ -26,6 +36,7 @@ QString tr(const char* text)
 /// A database that was found, with what its reader may need besides.
 struct FoundDatabase {
     OpenedDatabase database;
+    QString name; ///< how notices call it
     const SenderNames& names;
 };
 
@@ -64,8 +75,42 @@ void addOldNotes(FoundDatabase found, OpenedBackup& opened)
     addNoteStore(std::make_unique<OldNoteStore>(std::move(found.database)), opened);
 }
 
+// The set of this kind, which several databases may fill.
+template <typename Set, typename... Arguments>
+void addToSet(FoundDatabase found, OpenedBackup& opened, Arguments&&... arguments)
+{
+    auto* set = dynamic_cast<Set*>(opened.records.getPRData(Set::kDataType));
+    if (set == nullptr) {
+        auto made = std::make_unique<Set>(std::forward<Arguments>(arguments)..., *opened.notices);
+        set = made.get();
+        opened.records.add(std::move(made));
+    }
+    set->addDatabase({.opened = std::move(found.database), .name = found.name});
+}
+
+void addCalls(FoundDatabase found, OpenedBackup& opened)
+{
+    const SenderNames& names = found.names;
+    addToSet<CallData>(std::move(found), opened, names);
+}
+
+void addReminders(FoundDatabase found, OpenedBackup& opened)
+{
+    addToSet<ReminderData>(std::move(found), opened);
+}
+
+void addBookmarks(FoundDatabase found, OpenedBackup& opened)
+{
+    addToSet<BookmarkData>(std::move(found), opened);
+}
+
+void addHistory(FoundDatabase found, OpenedBackup& opened)
+{
+    addToSet<HistoryData>(std::move(found), opened);
+}
+
 /// One place where a device keeps records. A kind that lies elsewhere on other releases has a row
-/// for each place; all of them are read.
+/// for each place; all of them are read. A star in the path is any name, and there can be many.
 struct SourceRow {
     QLatin1String domain;
     QLatin1String path;
@@ -79,8 +124,41 @@ constexpr std::array kSources{
     SourceRow{"HomeDomain"_L1, "Library/SMS/sms.db"_L1, true, MessageStore::isMessageStore, addMessages},
     SourceRow{kNotesDomain, "NoteStore.sqlite"_L1, false, NoteStore::isNoteStore, addNotes},
     SourceRow{"HomeDomain"_L1, "Library/Notes/notes.sqlite"_L1, false, OldNoteStore::isOldNoteStore, addOldNotes},
+    SourceRow{"HomeDomain"_L1, "Library/CallHistoryDB/CallHistory.storedata"_L1, false, isCallHistory, addCalls},
+    SourceRow{"WirelessDomain"_L1, "Library/CallHistory/call_history.db"_L1, false, isOldCallHistory, addCalls},
+    SourceRow{"AppDomainGroup-group.com.apple.reminders"_L1, "Container_v1/Stores/*.sqlite"_L1, false, isReminderStore, addReminders},
+    SourceRow{"HomeDomain"_L1, "Library/Reminders/Container_v1/Stores/*.sqlite"_L1, false, isReminderStore, addReminders},
+    SourceRow{"HomeDomain"_L1, "Library/Calendar/Calendar.sqlitedb"_L1, false, isCalendarWithTasks, addReminders},
+    SourceRow{"HomeDomain"_L1, "Library/Safari/Bookmarks.db"_L1, false, BookmarkData::isBookmarkStore, addBookmarks},
+    SourceRow{"HomeDomain"_L1, "Library/Safari/History.db"_L1, false, HistoryData::isHistory, addHistory},
+    SourceRow{"HomeDomain"_L1, "Library/Safari/Profiles/*/History.db"_L1, false, HistoryData::isHistory, addHistory},
+    SourceRow{"AppDomain-com.apple.mobilesafari"_L1, "Library/Safari/Profiles/*/History.db"_L1, false, HistoryData::isHistory, addHistory},
+};
+
+/// A property list of an old release that fills a set which no database has filled.
+struct ListRow {
+    QLatin1String path; ///< in HomeDomain
+    int dataType = 0;
+    std::unique_ptr<PRData> (*read)(const QVariant& list) = nullptr;
+};
+
+constexpr std::array kLists{
+    ListRow{"Library/Safari/Bookmarks.plist"_L1, BookmarkData::kDataType, bookmarksOfList},
+    ListRow{"Library/Safari/History.plist"_L1,   HistoryData::kDataType,  historyOfList},
 };
 // clang-format on
+
+QStringList placesOf(const BackupFolder& device, const SourceRow& source)
+{
+    const QString path = source.path;
+    const int star = path.indexOf(QChar(u'*'));
+    if (star < 0) {
+        return {path};
+    }
+    const QString directory = path.left(path.lastIndexOf(QChar(u'/'), star));
+    const QRegularExpression pattern(QRegularExpression::wildcardToRegularExpression(path));
+    return device.filesBelow(source.domain, directory).filter(pattern);
+}
 
 // The database of the device, or none; why there is none is told to the notices, its absence only
 // where `isExpected`.
@@ -104,17 +182,50 @@ std::optional<OpenedDatabase> openOrNote(const BackupFolder& folder, const QStri
 void addFrom(const BackupFolder& device, const SourceRow& source, const SenderNames& names,
     OpenedBackup& opened)
 {
-    auto database =
-        openOrNote(device, source.domain, source.path, source.everywhere, *opened.notices);
-    if (!database) {
+    const QStringList places = placesOf(device, source);
+    for (const QString& path : places) {
+        auto database = openOrNote(device, source.domain, path, source.everywhere, *opened.notices);
+        if (!database) {
+            continue;
+        }
+        if (source.isOfKind(database->database)) {
+            source.add({.database = std::move(*database), .name = path, .names = names}, opened);
+        } else {
+            opened.notices->add(
+                tr("%1 of the backup is not of a kind that can be read.").arg(path));
+        }
+    }
+}
+
+void addFrom(const BackupFolder& device, const ListRow& source, OpenedBackup& opened)
+{
+    if (opened.records.getPRData(source.dataType) != nullptr) {
         return;
     }
-    if (source.isOfKind(database->database)) {
-        source.add({.database = std::move(*database), .names = names}, opened);
-    } else {
-        opened.notices->add(
-            tr("%1 of the backup is not of a kind that can be read.").arg(source.path));
+    const QString path = device.locate("HomeDomain"_L1, source.path);
+    if (path.isEmpty()) {
+        return;
     }
+    const auto list = formats::readPlistFile(path);
+    if (list) {
+        opened.records.add(source.read(*list));
+    } else {
+        opened.notices->add(formats::Error{.where = source.path, .what = list.error().what}.text());
+    }
+}
+
+// The rows that know a database, one for each kind of records in it.
+std::vector<const SourceRow*> rowsOf(const formats::Database& database)
+{
+    std::vector<const SourceRow*> rows;
+    for (const SourceRow& row : kSources) {
+        const bool isNew = std::ranges::none_of(
+            rows, [&](const SourceRow* other) { return other->add == row.add; });
+        if (isNew && row.isOfKind(database)) {
+            rows.push_back(&row);
+        }
+    }
+    return rows;
 }
 
 } // namespace
@@ -138,6 +249,9 @@ formats::Result<OpenedBackup> openBackupFolder(const QString& path)
     for (const SourceRow& source : kSources) {
         addFrom(device, source, names, opened);
     }
+    for (const ListRow& source : kLists) {
+        addFrom(device, source, opened);
+    }
     return opened;
 }
 
@@ -145,19 +259,27 @@ formats::Result<OpenedBackup> openDatabaseFile(const QString& path)
 {
     OpenedBackup opened{.notices = std::make_unique<Notices>()};
     const QString log = path + "-wal"_L1;
-    auto database = openWithLog(path, QFileInfo::exists(log) ? log : QString(), *opened.notices);
+    const QString foundLog = QFileInfo::exists(log) ? log : QString();
+    auto database = openWithLog(path, foundLog, *opened.notices);
     if (!database) {
         return database.error();
     }
-    const auto* const source = std::ranges::find_if(
-        kSources, [&](const SourceRow& row) { return row.isOfKind(database->database); });
-    if (source == kSources.end()) {
+    const std::vector<const SourceRow*> rows = rowsOf(database->database);
+    if (rows.empty()) {
         return formats::Error{.where = path,
             .what = tr("this is no database of a kind that can be read; it has the tables %1")
                         .arg(database->database.tables().join(", "_L1))};
     }
     opened.files = std::make_unique<LooseFiles>(QFileInfo(path).absoluteDir());
-    source->add({.database = std::move(*database), .names = SenderNames()}, opened);
+    for (const SourceRow* row : rows) {
+        // Each kind of records has the database for itself.
+        auto own = row == rows.front() ? std::move(database)
+                                       : openWithLog(path, foundLog, *opened.notices);
+        if (!own) {
+            return own.error();
+        }
+        row->add({.database = std::move(*own), .name = path, .names = SenderNames()}, opened);
+    }
     return opened;
 }
 

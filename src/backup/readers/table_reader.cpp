@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "backup/readers/table_reader.h"
+
+#include "backup/container/Notices.h"
+#include "formats/cocoa_values.h"
+#include "platform/literals.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace backup {
+
+namespace {
+
+constexpr double kStartOf2001 = 978'307'200; // seconds since 1970
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("DataExport", text);
+}
+
+// Names come from tables that the database defines, and are foreign text.
+QString quoted(QString name)
+{
+    return QChar(u'"') + name.replace(QChar(u'"'), "\"\""_L1) + QChar(u'"');
+}
+
+} // namespace
+
+QString TableReader::selection(const QString& table, std::span<const WantedColumn> columns) const
+{
+    const QStringList available = m_database.columns(table);
+    QStringList selected;
+    for (const WantedColumn& column : columns) {
+        QStringList found;
+        const QStringList names = column.name.split(QChar(u'|'));
+        for (const QString& name : names) {
+            if (available.contains(name)) {
+                found.append(quoted(name));
+            }
+        }
+        if (found.isEmpty() && column.needed) {
+            m_notices.add(
+                tr("%1 has no column %2; it is read as empty.").arg(m_name, names.first()));
+        }
+        found.append(QStringLiteral("NULL"));
+        selected.append("coalesce("_L1 + found.join(QChar(u',')) + ",NULL)"_L1);
+    }
+    return selected.join(QChar(u','));
+}
+
+void TableReader::noteDamage() const
+{
+    m_notices.add(tr("%1 is damaged; what can be read of it is there.").arg(m_name));
+}
+
+void TableReader::read(
+    const QString& table, std::span<const WantedColumn> columns, const Take& take) const
+{
+    if (!m_database.hasTable(table)) {
+        m_notices.add(tr("%1 has no table %2.").arg(m_name, table));
+        return;
+    }
+    // No sorting here: it would ask for all rows before it gives the first one.
+    const QString rows = "SELECT "_L1 + selection(table, columns) + ",rowid FROM "_L1
+                         + quoted(table) + " ORDER BY rowid"_L1;
+    const int idColumn = static_cast<int>(columns.size());
+    qint64 last = INT64_MIN;
+    auto query = m_database.prepare(rows);
+    while (query && query->next()) {
+        last = query->integer(idColumn);
+        take(*query);
+    }
+    if (query && !query->failed()) {
+        return;
+    }
+    noteDamage();
+    auto backwards = m_database.prepare(rows + " DESC"_L1);
+    while (backwards && backwards->next() && backwards->integer(idColumn) > last) {
+        take(*backwards);
+    }
+}
+
+QDateTime cocoaDate(const formats::Statement& row, int column)
+{
+    const double seconds = row.real(column);
+    return seconds == 0 ? QDateTime() : formats::dateFromCocoaSeconds(seconds);
+}
+
+QDateTime unixDate(const formats::Statement& row, int column)
+{
+    const double seconds = row.real(column);
+    return seconds == 0 ? QDateTime() : formats::dateFromCocoaSeconds(seconds - kStartOf2001);
+}
+
+qint64 dateOrder(const QDateTime& date)
+{
+    return date.isValid() ? date.toMSecsSinceEpoch() : INT64_MIN;
+}
+
+} // namespace backup

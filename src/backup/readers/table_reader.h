@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "formats/sqlite.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <QLatin1String>
+#include <functional>
+#include <span>
+
+namespace backup {
+
+class Notices;
+
+/// A column of a table as a reader wants it.
+struct WantedColumn {
+    QString name;        ///< "ZTITLE1|ZTITLE": the first of them that has a value
+    bool needed = false; ///< each release has it: that it is missing is told
+};
+
+/// Reads whole tables of one database, in whatever form a release has them.
+class TableReader {
+public:
+    /// `name` is how notices call the database; all three outlive the reader.
+    TableReader(const formats::Database& database, const QString& name, Notices& notices)
+        : m_database(database), m_name(name), m_notices(notices)
+    {
+    }
+
+    const formats::Database& database() const { return m_database; }
+
+    using Take = std::function<void(const formats::Statement&)>;
+
+    /// Gives each row to `take`, in the order of their ids, with the wanted columns in their order;
+    /// a column that the table lacks is NULL. Around a damaged page the rows before it come first,
+    /// then those behind it from the last one on. What is missing is told to the notices.
+    void read(const QString& table, std::span<const WantedColumn> columns, const Take& take) const;
+
+private:
+    QString selection(const QString& table, std::span<const WantedColumn> columns) const;
+    void noteDamage() const;
+
+    const formats::Database& m_database;
+    const QString& m_name;
+    Notices& m_notices;
+};
+
+/// Seconds since 2001, or since 1970, in a column. Invalid for none: NULL, 0, and what is no
+/// number.
+QDateTime cocoaDate(const formats::Statement& row, int column);
+QDateTime unixDate(const formats::Statement& row, int column);
+
+/// What a date is sorted by: milliseconds since 1970, the smallest number where there is none.
+qint64 dateOrder(const QDateTime& date);
+
+} // namespace backup
