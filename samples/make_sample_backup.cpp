@@ -4,6 +4,7 @@
 //   phone.json          what the phone is, and what every phone has
 //   people.json         the address book
 //   conversations.json  the messages
+//   notes.json          the notes
 //   media/              files that messages carry, beside those that this program draws
 //   schema/             the definitions of the databases
 //
@@ -13,6 +14,7 @@
 #include "maker/Conversations.h"
 #include "maker/Database.h"
 #include "maker/MessageStore.h"
+#include "maker/NoteStore.h"
 #include "maker/common.h"
 #include "maker/plist_writer.h"
 
@@ -66,6 +68,16 @@ void writePeople(const Paths& paths, BackupWriter& backup)
     backup.addFile("HomeDomain", folder + "AddressBookImages.sqlitedb", pictures.mainFile());
 }
 
+void writeNotes(const Paths& paths, BackupWriter& backup)
+{
+    Database database(paths.scratch + "/NoteStore.sqlite", paths.schema("NoteStore"),
+        Database::Journal::WriteAheadLog);
+    sample::NoteStore(database, backup, paths.media())
+        .write(sample::readJson(paths.sources + "/notes.json"));
+    database.checkpoint();
+    backup.addFile("AppDomainGroup-group.com.apple.notes", "NoteStore.sqlite", database.mainFile());
+}
+
 void writeOtherEntries(const QJsonObject& phone, BackupWriter& backup)
 {
     for (const QJsonValue& entry : sample::entriesOf(phone["directories"])) {
@@ -115,6 +127,7 @@ void makeBackup(const Paths& paths)
     BackupWriter backup(paths.backup, seconds);
     writeMessages(paths, backup);
     writePeople(paths, backup);
+    writeNotes(paths, backup);
     writeOtherEntries(phone, backup);
     backup.writeIndex(paths.schema("Manifest"));
 

@@ -180,6 +180,50 @@ QImage star()
     return image;
 }
 
+QImage shell()
+{
+    QImage image(96, 80, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    Canvas canvas(image);
+    canvas.setBrush(QColor("#ffe0b2"));
+    canvas.drawChord(QRectF(6, 6, 84, 110), 0, 180 * 16);
+    for (int rib = -3; rib <= 3; ++rib) {
+        canvas.line({48.0 + rib * 3, 60}, {48.0 + rib * 12, 14.0 + rib * rib * 3}, "#bf8040", 2);
+    }
+    canvas.shape({{{38, 58}, {58, 58}, {62, 74}, {34, 74}}}, "#e0a96d");
+    return image;
+}
+
+QImage sketch()
+{
+    QImage image(500, 360, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    Canvas canvas(image);
+    canvas.line({90, 280}, {410, 280}, "#263238", 5);
+    canvas.line({90, 280}, {130, 325}, "#263238", 5);
+    canvas.line({130, 325}, {370, 325}, "#263238", 5);
+    canvas.line({370, 325}, {410, 280}, "#263238", 5);
+    canvas.line({240, 280}, {244, 40}, "#263238", 5);
+    canvas.line({248, 52}, {390, 255}, "#d32f2f", 4);
+    canvas.line({390, 255}, {250, 258}, "#d32f2f", 4);
+    canvas.line({232, 70}, {140, 255}, "#1976d2", 4);
+    canvas.line({140, 255}, {236, 257}, "#1976d2", 4);
+    return image;
+}
+
+QImage page()
+{
+    QImage image(420, 594, QImage::Format_RGB32);
+    image.fill(QColor("#fafafa"));
+    Canvas canvas(image);
+    canvas.falling({40, 40, 160, 36}, "#455a64", "#607d8b");
+    for (int line = 0; line < 18; ++line) {
+        const double end = line % 6 == 5 ? 210 : 380 - line * 7 % 30;
+        canvas.line({40, 120.0 + line * 24}, {end, 120.0 + line * 24}, "#9e9e9e", 6);
+    }
+    return image;
+}
+
 QImage boat(double step)
 {
     QImage image(320, 240, QImage::Format_RGB32);
