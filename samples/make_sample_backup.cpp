@@ -5,16 +5,22 @@
 //   people.json         the address book
 //   conversations.json  the messages
 //   notes.json          the notes
+//   calls.json          the call history
+//   reminders.json      the reminders of two accounts
+//   safari.json         bookmarks, reading list and history
 //   media/              files that messages carry, beside those that this program draws
 //   schema/             the definitions of the databases
 //
 // The same sources give the same bytes.
 #include "maker/AddressBook.h"
 #include "maker/BackupWriter.h"
+#include "maker/CallHistory.h"
 #include "maker/Conversations.h"
 #include "maker/Database.h"
 #include "maker/MessageStore.h"
 #include "maker/NoteStore.h"
+#include "maker/Reminders.h"
+#include "maker/Safari.h"
 #include "maker/common.h"
 #include "maker/plist_writer.h"
 
@@ -22,6 +28,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHashFunctions>
 #include <QJsonArray>
 #include <QTemporaryDir>
@@ -78,6 +85,47 @@ void writeNotes(const Paths& paths, BackupWriter& backup)
     backup.addFile("AppDomainGroup-group.com.apple.notes", "NoteStore.sqlite", database.mainFile());
 }
 
+// A database that `maker` fills from a source and whose log was taken in before the backup.
+template <typename Maker>
+void writeStore(const Paths& paths, const QString& schema, const QString& domain,
+    const QString& path, const QJsonObject& source, BackupWriter& backup)
+{
+    const QString scratch = paths.scratch + "/" + QFileInfo(path).fileName();
+    Database database(scratch, paths.schema(schema), Database::Journal::WriteAheadLog);
+    Maker(database).write(source);
+    database.checkpoint();
+    backup.addFile(domain, path, database.mainFile());
+}
+
+void writeCalls(const Paths& paths, BackupWriter& backup)
+{
+    writeStore<sample::CallHistory>(paths, "CallHistory", "HomeDomain",
+        "Library/CallHistoryDB/CallHistory.storedata",
+        sample::readJson(paths.sources + "/calls.json"), backup);
+}
+
+// One store for each account; that of the phone itself has a name instead of an identifier.
+void writeReminders(const Paths& paths, BackupWriter& backup)
+{
+    const QJsonObject source = sample::readJson(paths.sources + "/reminders.json");
+    for (const QJsonValue& account : sample::entriesOf(source["accounts"])) {
+        const QString name = account["name"].toString();
+        const QString id = name == "Local" ? QString("local") : sample::uuidFor("store " + name);
+        writeStore<sample::Reminders>(paths, "Reminders",
+            "AppDomainGroup-group.com.apple.reminders",
+            "Container_v1/Stores/Data-" + id + ".sqlite", account.toObject(), backup);
+    }
+}
+
+void writeSafari(const Paths& paths, BackupWriter& backup)
+{
+    const QJsonObject source = sample::readJson(paths.sources + "/safari.json");
+    writeStore<sample::SafariBookmarks>(
+        paths, "SafariBookmarks", "HomeDomain", "Library/Safari/Bookmarks.db", source, backup);
+    writeStore<sample::SafariHistory>(
+        paths, "SafariHistory", "HomeDomain", "Library/Safari/History.db", source, backup);
+}
+
 void writeOtherEntries(const QJsonObject& phone, BackupWriter& backup)
 {
     for (const QJsonValue& entry : sample::entriesOf(phone["directories"])) {
@@ -128,6 +176,9 @@ void makeBackup(const Paths& paths)
     writeMessages(paths, backup);
     writePeople(paths, backup);
     writeNotes(paths, backup);
+    writeCalls(paths, backup);
+    writeReminders(paths, backup);
+    writeSafari(paths, backup);
     writeOtherEntries(phone, backup);
     backup.writeIndex(paths.schema("Manifest"));
 

@@ -95,7 +95,7 @@ QString serviceText(const Call& call)
     case CallService::Phone:
         return tr("Phone");
     case CallService::FaceTime:
-        return tr("FaceTime");
+        return QStringLiteral("FaceTime");
     case CallService::FaceTimeAudio:
         return tr("FaceTime Audio");
     case CallService::FaceTimeVideo:

@@ -122,7 +122,7 @@ RecordList visitRecords(std::vector<Visit> visits)
 
 QStringList linkColumns()
 {
-    return {tr("Title"), tr("Address"), tr("Label")};
+    return {tr("Title"), tr("Web address"), tr("Label")};
 }
 
 } // namespace backup

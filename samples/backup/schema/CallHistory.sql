@@ -1,0 +1,46 @@
+-- SPDX-License-Identifier: MIT
+-- Schema of the call history of a phone with iOS 17: HomeDomain,
+-- Library/CallHistoryDB/CallHistory.storedata. Dates are seconds since 2001-01-01 UTC.
+
+CREATE TABLE ZCALLRECORD (
+    Z_PK INTEGER PRIMARY KEY,
+    Z_ENT INTEGER,                    -- 2
+    Z_OPT INTEGER,
+    ZANSWERED INTEGER,                -- of an incoming call
+    ZCALL_CATEGORY INTEGER,           -- 1 sound, 2 picture
+    ZCALLTYPE INTEGER,                -- 0 an app's, 1 phone, 8 and 16 FaceTime with and without picture
+    ZDISCONNECTED_CAUSE INTEGER,
+    ZFACE_TIME_DATA INTEGER,
+    ZFILTERED_OUT_REASON INTEGER,
+    ZHANDLE_TYPE INTEGER,             -- 1 other, 2 phone number, 3 e-mail address
+    ZJUNKCONFIDENCE INTEGER,
+    ZORIGINATED INTEGER,              -- 1: the owner called
+    ZREAD INTEGER,
+    ZDATE TIMESTAMP,
+    ZDURATION FLOAT,                  -- seconds
+    ZADDRESS VARCHAR,                 -- NULL: withheld
+    ZISO_COUNTRY_CODE VARCHAR,
+    ZLOCATION VARCHAR,
+    ZNAME VARCHAR,
+    ZSERVICE_PROVIDER VARCHAR,        -- "com.apple.Telephony", "com.apple.FaceTime", an app
+    ZUNIQUE_ID VARCHAR
+);
+CREATE INDEX ZCALLRECORD_ZDATE_INDEX ON ZCALLRECORD (ZDATE);
+
+-- All who took part in a call.
+CREATE TABLE ZHANDLE (
+    Z_PK INTEGER PRIMARY KEY,
+    Z_ENT INTEGER,                    -- 4
+    Z_OPT INTEGER,
+    ZTYPE INTEGER,
+    ZNORMALIZEDVALUE VARCHAR,
+    ZVALUE VARCHAR
+);
+CREATE TABLE Z_2REMOTEPARTICIPANTHANDLES (
+    Z_2REMOTEPARTICIPANTCALLS INTEGER,
+    Z_4REMOTEPARTICIPANTHANDLES INTEGER,
+    PRIMARY KEY (Z_2REMOTEPARTICIPANTCALLS, Z_4REMOTEPARTICIPANTHANDLES)
+);
+
+CREATE TABLE Z_PRIMARYKEY (Z_ENT INTEGER PRIMARY KEY, Z_NAME VARCHAR, Z_SUPER INTEGER, Z_MAX INTEGER);
+CREATE TABLE Z_METADATA (Z_VERSION INTEGER PRIMARY KEY, Z_UUID VARCHAR(255), Z_PLIST BLOB);

@@ -1,0 +1,60 @@
+-- SPDX-License-Identifier: MIT
+-- Schema of a store of reminders of a phone with iOS 17, one for each account:
+-- AppDomainGroup-group.com.apple.reminders, Container_v1/Stores/Data-*.sqlite. Dates are seconds
+-- since 2001-01-01 UTC; a day without a time is its midnight as if the clock showed UTC.
+
+CREATE TABLE ZREMCDREMINDER (
+    Z_PK INTEGER PRIMARY KEY,
+    Z_ENT INTEGER,
+    Z_OPT INTEGER,
+    ZALLDAY INTEGER,
+    ZCOMPLETED INTEGER,
+    ZFLAGGED INTEGER,
+    ZICSDISPLAYORDER INTEGER,
+    ZMARKEDFORDELETION INTEGER,
+    ZPRIORITY INTEGER,                -- 0 none, 1 high, 5 medium, 9 low
+    ZACCOUNT INTEGER,                 -- ZREMCDOBJECT.Z_PK
+    ZLIST INTEGER,                    -- ZREMCDBASELIST.Z_PK
+    ZPARENTREMINDER INTEGER,          -- the reminder that this is a part of
+    ZCOMPLETIONDATE TIMESTAMP,
+    ZCREATIONDATE TIMESTAMP,
+    ZDISPLAYDATEDATE TIMESTAMP,
+    ZDUEDATE TIMESTAMP,
+    ZLASTMODIFIEDDATE TIMESTAMP,
+    ZSTARTDATE TIMESTAMP,
+    ZNOTES VARCHAR,
+    ZTIMEZONE VARCHAR,
+    ZTITLE VARCHAR,
+    ZICSURL VARCHAR,
+    ZIDENTIFIER BLOB                  -- 16 bytes
+);
+
+CREATE TABLE ZREMCDBASELIST (
+    Z_PK INTEGER PRIMARY KEY,
+    Z_ENT INTEGER,
+    Z_OPT INTEGER,
+    ZISGROUP INTEGER,
+    ZMARKEDFORDELETION INTEGER,
+    ZACCOUNT INTEGER,
+    ZPARENTLIST INTEGER,
+    ZNAME VARCHAR,
+    ZIDENTIFIER BLOB
+);
+
+-- All that is neither a reminder nor a list; Z_ENT tells what.
+CREATE TABLE ZREMCDOBJECT (
+    Z_PK INTEGER PRIMARY KEY,
+    Z_ENT INTEGER,
+    Z_OPT INTEGER,
+    ZMARKEDFORDELETION INTEGER,
+    ZREMINDER INTEGER,                -- of an alarm
+    ZREMINDER4 INTEGER,               -- of a rule of recurrence
+    ZINTERVAL INTEGER,
+    ZOCCURRENCECOUNT INTEGER,
+    ZENDDATE TIMESTAMP,
+    ZNAME VARCHAR,                    -- of an account
+    ZIDENTIFIER BLOB
+);
+
+CREATE TABLE Z_PRIMARYKEY (Z_ENT INTEGER PRIMARY KEY, Z_NAME VARCHAR, Z_SUPER INTEGER, Z_MAX INTEGER);
+CREATE TABLE Z_METADATA (Z_VERSION INTEGER PRIMARY KEY, Z_UUID VARCHAR(255), Z_PLIST BLOB);
