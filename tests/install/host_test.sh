@@ -15,6 +15,15 @@ fail()
     exit 1
 }
 
+# Whether the program is linked with the installed library. What ldd says is read to its end first:
+# it fails when the one that reads it goes before.
+links_installed()
+{
+    local linked
+    linked=$(ldd "$1")
+    [[ $linked == *"=> $prefix/"* ]]
+}
+
 rm -rf -- "$prefix" "$work/out"
 "$cmake" --install "$build" --prefix "$prefix" >"$work/install.log"
 
@@ -22,7 +31,7 @@ rm -rf -- "$prefix" "$work/out"
 "$cmake" -G Ninja -S "$here/host" -B "$work/host" -DCMAKE_CXX_COMPILER="$compiler" \
     -DCMAKE_CXX_FLAGS="$flags" -DCMAKE_PREFIX_PATH="$prefix" >"$work/host.log"
 "$cmake" --build "$work/host" >>"$work/host.log" || { cat "$work/host.log"; fail "the host does not build"; }
-ldd "$work/host/host" | grep -qF "=> $prefix/" || fail "the host runs with another library"
+links_installed "$work/host/host" || fail "the host runs with another library"
 if grep -rlF -e "$build" "$prefix" --include='*.cmake' --include='*.h'; then
     fail "these files name the folder of the build"
 fi
@@ -38,7 +47,7 @@ iconv -f UTF-16 -t UTF-8 "$csv" | grep -qF '"Received","See you at Luna?"' \
 program=$prefix/bin/dataexport
 if [ -e "$program" ]; then
     "$program" --help >/dev/null || fail "the installed program does not run"
-    ldd "$program" | grep -qF "=> $prefix/" || fail "the installed program runs with another library"
+    links_installed "$program" || fail "the installed program runs with another library"
     languages=$("$program" list --language none "$work" 2>&1 || true)
     [[ $languages == *" de, en, "* ]] || fail "the installed program has no translations: $languages"
 fi
