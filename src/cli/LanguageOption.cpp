@@ -60,7 +60,7 @@ QString LanguageOption::install()
     const QString language = isGiven() ? languageOfCode(code, available)
                                        : languageOfUser(QLocale::system().uiLanguages(), available);
     if (language.isEmpty()) {
-        return "--language: no language is called \""_L1 + code + "\"; there are: "_L1
+        return R"(--language: no language is called ")"_L1 + code + R"("; there are: )"_L1
                + available.join(", "_L1);
     }
     if (language == "en"_L1) {

@@ -13,7 +13,7 @@ namespace {
 QByteArray localeOfMessages()
 {
     for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        const QByteArray locale = qgetenv(name);
+        QByteArray locale = qgetenv(name);
         if (!locale.isEmpty()) {
             return locale;
         }
