@@ -188,7 +188,9 @@ TEST(SampleBackup, DescribesThePhoneInItsPropertyLists)
 TEST(SampleBackup, HasSoundDatabases)
 {
     for (const char* path : {"Library/SMS/sms.db", "Library/AddressBook/AddressBook.sqlitedb",
-             "Library/AddressBook/AddressBookImages.sqlitedb"}) {
+             "Library/AddressBook/AddressBookImages.sqlitedb",
+             "Library/CallHistoryDB/CallHistory.storedata", "Container_v1/Stores/Data-local.sqlite",
+             "Library/Safari/Bookmarks.db", "Library/Safari/History.db"}) {
         SCOPED_TRACE(path);
         const auto database = Database::open(rowOf(path).payload(), OpenMode::Immutable);
         ASSERT_TRUE(database);

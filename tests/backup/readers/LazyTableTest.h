@@ -5,6 +5,7 @@
 #include "model/PRSafariBookmarkItem.h"
 #include "support/backup_builder.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>

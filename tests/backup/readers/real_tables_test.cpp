@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+// Stores that real devices made, and small ones that others made by hand. They lie beside the
+// project, or where DATAEXPORT_TEST_DATA says; the tests are passed over where they are absent.
+#include "LazyTableTest.h"
+#include "formats/sqlite.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+class RealTables : public LazyTableTest {
+protected:
+    bool open(const QString& path)
+    {
+        const QString directory = qEnvironmentVariable(
+            "DATAEXPORT_TEST_DATA", QStringLiteral(DATAEXPORT_SOURCE_DIR "/../shared/data"));
+        m_file = QDir(directory).filePath(path);
+        if (!QFileInfo::exists(m_file)) {
+            return false;
+        }
+        take(QFileInfo(m_file).isDir() ? backup::openBackupFolder(m_file)
+                                       : backup::openDatabaseFile(m_file));
+        return true;
+    }
+
+    QString m_file;
+};
+
+TEST_F(RealTables, CallsOfAHandMadeStoreAreRead)
+{
+    if (!open("databases/miniatures/calls/testdata/calls.1.CallHistory.storedata")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    // 700,000,000 is 2023-03-08 20:26:40 UTC; the calls follow day by day.
+    EXPECT_EQ(lines(3),
+        QStringList({"+1 555 0199 | +1 555 0199 | 2023-03-12 22:26 | 0:00:00 | Incoming | Phone",
+            "+1 555 0166 | +1 555 0166 | 2023-03-11 22:26 | 0:00:00 | Incoming | Phone",
+            "+1 555 0300, +1 555 0301 | +1 555 0300, +1 555 0301 | 2023-03-10 22:26 | 0:02:00"
+            " | Outgoing | FaceTime Video",
+            "+1 555 0142 | +1 555 0142 | 2023-03-09 22:26 | 0:00:00 | Missed | Phone",
+            "Alex Fixture | +1 555 0100 | 2023-03-08 22:26 | 0:01:05 | Outgoing | Phone"}));
+}
+
+TEST_F(RealTables, RemindersOfHandMadeStoresAreRead)
+{
+    if (!open("databases/miniatures/reminders/testdata/reminders.1.cloud.sqlite")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(column(30, 0), QStringList({"Buy milk", "Buy milk › Buy oat milk", "Corrupt date",
+                                 "Submit report", "Call plumber"}));
+    EXPECT_EQ(column(30, 7), QStringList({"Yes", "", "", "", ""}));
+    EXPECT_EQ(lines(30).filter(QRegularExpression("^x ")).size(), 1);
+}
+
+TEST_F(RealTables, BookmarksOfAHandMadeStoreAreRead)
+{
+    if (!open("databases/miniatures/safari/testdata/safari.1.Bookmarks.db")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    // One of its nine rows is hidden, four are folders.
+    EXPECT_EQ(column(33, 0), QStringList({"Example Bookmark", "Corrupt", "RL Unread", "RL Read"}));
+}
+
+TEST_F(RealTables, HistoryOfAHandMadeStoreIsRead)
+{
+    if (!open("databases/miniatures/safari/testdata/safari.1.History.db")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(column(34, 0), QStringList({"Visit B1", "Visit A2", "Corrupt"}));
+}
+
+TEST_F(RealTables, HistoryOfAComputerIsReadWithoutItsRedirects)
+{
+    if (!open("databases/safari-History.db")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    const auto database = formats::Database::open(m_file, formats::OpenMode::Immutable);
+    ASSERT_TRUE(database.has_value());
+    auto visits =
+        database->prepare("SELECT count(*) FROM history_visits WHERE redirect_destination IS NULL");
+    ASSERT_TRUE(visits->next());
+    EXPECT_EQ(lines(34).size(), visits->integer(0));
+    EXPECT_EQ(column(34, 0).first(), "Google");
+    EXPECT_EQ(column(34, 0).last(), "Ubuntu Start Page");
+    EXPECT_FALSE(column(34, 0).contains(""));
+}
+
+TEST_F(RealTables, NewIphonesHaveBookmarksOfTheMakerAndNoReminders)
+{
+    if (!open("backups/ios-13.3")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(
+        column(33, 0), QStringList({"iPhone User Guide", "Apple", "Bing", "Google", "Yahoo"}));
+    EXPECT_EQ(lines(30), QStringList());
+    EXPECT_EQ(notices("Reminders"), QStringList());
+    EXPECT_EQ(notices("Calendar"), QStringList());
+    EXPECT_EQ(m_opened->records.getPRData(3), nullptr);
+}
+
+TEST_F(RealTables, BackupOfIos14Opens)
+{
+    if (!open("backups/ios-14.0-beta")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(lines(33), QStringList());
+    EXPECT_EQ(lines(30), QStringList());
+    EXPECT_EQ(notices("Stores"), QStringList());
+}
+
+TEST_F(RealTables, EventsOfACalendarAreNoReminders)
+{
+    if (!open("databases/ios6-Calendar.sqlitedb")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(lines(30), QStringList());
+    EXPECT_EQ(notices(""), QStringList());
+}
+
+} // namespace
