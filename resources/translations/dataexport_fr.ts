@@ -575,5 +575,135 @@
         <extracomment>Follows the name of the file and a colon; %1 is a list of names.</extracomment>
         <translation>ce n’est pas une base de données d’un type lisible ; elle contient les tables %1</translation>
     </message>
+    <message>
+        <source>Number</source>
+        <extracomment>Column: a phone number or e-mail address.</extracomment>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <extracomment>Column: how long a call was.</extracomment>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <extracomment>Column: what carried a call, such as Phone or FaceTime Audio.</extracomment>
+        <translation>Service</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <extracomment>Type of a call.</extracomment>
+        <translation>Entrant</translation>
+    </message>
+    <message>
+        <source>Outgoing</source>
+        <extracomment>Type of a call.</extracomment>
+        <translation>Sortant</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <extracomment>Type of a call: nobody answered it.</extracomment>
+        <translation>Manqué</translation>
+    </message>
+    <message>
+        <source>Other app</source>
+        <extracomment>Service of a call: an app that is not known by name.</extracomment>
+        <translation>Autre app</translation>
+    </message>
+    <message>
+        <source>FaceTime Audio</source>
+        <extracomment>Service of a call.</extracomment>
+        <translation>FaceTime audio</translation>
+    </message>
+    <message>
+        <source>FaceTime Video</source>
+        <extracomment>Service of a call.</extracomment>
+        <translation>FaceTime vidéo</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <extracomment>Column: of a reminder, of a note or of a web page.</extracomment>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <extracomment>Column: the list in which a reminder stands.</extracomment>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <extracomment>Column: when a reminder is due.</extracomment>
+        <translation>Échéance</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <extracomment>Column: when a reminder was completed, or Yes.</extracomment>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <extracomment>Column: High, Medium or Low.</extracomment>
+        <translation>Priorité</translation>
+    </message>
+    <message>
+        <source>Flagged</source>
+        <extracomment>Column: whether a reminder bears a flag.</extracomment>
+        <translation>Avec drapeau</translation>
+    </message>
+    <message>
+        <source>Repeats</source>
+        <extracomment>Column: whether a reminder comes again.</extracomment>
+        <translation>Se répète</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>Élevée</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>Faible</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <extracomment>In a column of yes or nothing.</extracomment>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <extracomment>Name of the list of reminders that each phone has.</extracomment>
+        <translation>Rappels</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <extracomment>Column: the address of a web page.</extracomment>
+        <translation>Adresse web</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <extracomment>Column: what stands before a link, a date or the name of a site.</extracomment>
+        <translation>Libellé</translation>
+    </message>
+    <message>
+        <source>%1 has no column %2; it is read as empty.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 n’a pas de colonne %2 ; elle est lue comme vide.</translation>
+    </message>
+    <message>
+        <source>%1 has no table %2.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 n’a pas de table %2.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; what can be read of it is there.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 est endommagé ; ce qui peut en être lu est présent.</translation>
+    </message>
 </context>
 </TS>

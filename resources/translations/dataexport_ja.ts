@@ -575,5 +575,135 @@
         <extracomment>Follows the name of the file and a colon; %1 is a list of names.</extracomment>
         <translation>読み取れる種類のデータベースではありません。含まれる表：%1</translation>
     </message>
+    <message>
+        <source>Number</source>
+        <extracomment>Column: a phone number or e-mail address.</extracomment>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <extracomment>Column: how long a call was.</extracomment>
+        <translation>通話時間</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <extracomment>Column: what carried a call, such as Phone or FaceTime Audio.</extracomment>
+        <translation>サービス</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <extracomment>Type of a call.</extracomment>
+        <translation>着信</translation>
+    </message>
+    <message>
+        <source>Outgoing</source>
+        <extracomment>Type of a call.</extracomment>
+        <translation>発信</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <extracomment>Type of a call: nobody answered it.</extracomment>
+        <translation>不在着信</translation>
+    </message>
+    <message>
+        <source>Other app</source>
+        <extracomment>Service of a call: an app that is not known by name.</extracomment>
+        <translation>その他のアプリ</translation>
+    </message>
+    <message>
+        <source>FaceTime Audio</source>
+        <extracomment>Service of a call.</extracomment>
+        <translation>FaceTimeオーディオ</translation>
+    </message>
+    <message>
+        <source>FaceTime Video</source>
+        <extracomment>Service of a call.</extracomment>
+        <translation>FaceTimeビデオ</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <extracomment>Column: of a reminder, of a note or of a web page.</extracomment>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <extracomment>Column: the list in which a reminder stands.</extracomment>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <extracomment>Column: when a reminder is due.</extracomment>
+        <translation>期限</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <extracomment>Column: when a reminder was completed, or Yes.</extracomment>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <extracomment>Column: High, Medium or Low.</extracomment>
+        <translation>優先順位</translation>
+    </message>
+    <message>
+        <source>Flagged</source>
+        <extracomment>Column: whether a reminder bears a flag.</extracomment>
+        <translation>フラグ付き</translation>
+    </message>
+    <message>
+        <source>Repeats</source>
+        <extracomment>Column: whether a reminder comes again.</extracomment>
+        <translation>繰り返し</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <extracomment>In a column of yes or nothing.</extracomment>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <extracomment>Name of the list of reminders that each phone has.</extracomment>
+        <translation>リマインダー</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <extracomment>Column: the address of a web page.</extracomment>
+        <translation>Webアドレス</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <extracomment>Column: what stands before a link, a date or the name of a site.</extracomment>
+        <translation>ラベル</translation>
+    </message>
+    <message>
+        <source>%1 has no column %2; it is read as empty.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1に列%2がありません。空として読み込みます。</translation>
+    </message>
+    <message>
+        <source>%1 has no table %2.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1に表%2がありません。</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; what can be read of it is there.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1は壊れています。読み取れた分だけがあります。</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,135 @@
         <extracomment>Follows the name of the file and a colon; %1 is a list of names.</extracomment>
         <translation>읽을 수 있는 종류의 데이터베이스가 아닙니다. 포함된 테이블: %1</translation>
     </message>
+    <message>
+        <source>Number</source>
+        <extracomment>Column: a phone number or e-mail address.</extracomment>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <extracomment>Column: how long a call was.</extracomment>
+        <translation>통화 시간</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <extracomment>Column: what carried a call, such as Phone or FaceTime Audio.</extracomment>
+        <translation>서비스</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <extracomment>Type of a call.</extracomment>
+        <translation>수신</translation>
+    </message>
+    <message>
+        <source>Outgoing</source>
+        <extracomment>Type of a call.</extracomment>
+        <translation>발신</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <extracomment>Type of a call: nobody answered it.</extracomment>
+        <translation>부재중</translation>
+    </message>
+    <message>
+        <source>Other app</source>
+        <extracomment>Service of a call: an app that is not known by name.</extracomment>
+        <translation>기타 앱</translation>
+    </message>
+    <message>
+        <source>FaceTime Audio</source>
+        <extracomment>Service of a call.</extracomment>
+        <translation>FaceTime 오디오</translation>
+    </message>
+    <message>
+        <source>FaceTime Video</source>
+        <extracomment>Service of a call.</extracomment>
+        <translation>FaceTime 영상통화</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <extracomment>Column: of a reminder, of a note or of a web page.</extracomment>
+        <translation>제목</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <extracomment>Column: the list in which a reminder stands.</extracomment>
+        <translation>목록</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <extracomment>Column: when a reminder is due.</extracomment>
+        <translation>기한</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <extracomment>Column: when a reminder was completed, or Yes.</extracomment>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <extracomment>Column: High, Medium or Low.</extracomment>
+        <translation>우선순위</translation>
+    </message>
+    <message>
+        <source>Flagged</source>
+        <extracomment>Column: whether a reminder bears a flag.</extracomment>
+        <translation>깃발 표시</translation>
+    </message>
+    <message>
+        <source>Repeats</source>
+        <extracomment>Column: whether a reminder comes again.</extracomment>
+        <translation>반복</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>높음</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>중간</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>낮음</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <extracomment>In a column of yes or nothing.</extracomment>
+        <translation>예</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <extracomment>Name of the list of reminders that each phone has.</extracomment>
+        <translation>미리 알림</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <extracomment>Column: the address of a web page.</extracomment>
+        <translation>웹 주소</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <extracomment>Column: what stands before a link, a date or the name of a site.</extracomment>
+        <translation>레이블</translation>
+    </message>
+    <message>
+        <source>%1 has no column %2; it is read as empty.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1에 %2 열이 없습니다. 비어 있는 것으로 읽습니다.</translation>
+    </message>
+    <message>
+        <source>%1 has no table %2.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1에 %2 표가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; what can be read of it is there.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1이(가) 손상되었습니다. 읽을 수 있는 내용만 있습니다.</translation>
+    </message>
 </context>
 </TS>

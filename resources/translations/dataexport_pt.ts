@@ -575,5 +575,135 @@
         <extracomment>Follows the name of the file and a colon; %1 is a list of names.</extracomment>
         <translation>não é um banco de dados de um tipo legível; contém as tabelas %1</translation>
     </message>
+    <message>
+        <source>Number</source>
+        <extracomment>Column: a phone number or e-mail address.</extracomment>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <extracomment>Column: how long a call was.</extracomment>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Service</source>
+        <extracomment>Column: what carried a call, such as Phone or FaceTime Audio.</extracomment>
+        <translation>Serviço</translation>
+    </message>
+    <message>
+        <source>Incoming</source>
+        <extracomment>Type of a call.</extracomment>
+        <translation>Recebida</translation>
+    </message>
+    <message>
+        <source>Outgoing</source>
+        <extracomment>Type of a call.</extracomment>
+        <translation>Efetuada</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <extracomment>Type of a call: nobody answered it.</extracomment>
+        <translation>Perdida</translation>
+    </message>
+    <message>
+        <source>Other app</source>
+        <extracomment>Service of a call: an app that is not known by name.</extracomment>
+        <translation>Outro app</translation>
+    </message>
+    <message>
+        <source>FaceTime Audio</source>
+        <extracomment>Service of a call.</extracomment>
+        <translation>FaceTime de Áudio</translation>
+    </message>
+    <message>
+        <source>FaceTime Video</source>
+        <extracomment>Service of a call.</extracomment>
+        <translation>FaceTime de Vídeo</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <extracomment>Column: of a reminder, of a note or of a web page.</extracomment>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>List</source>
+        <extracomment>Column: the list in which a reminder stands.</extracomment>
+        <translation>Lista</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <extracomment>Column: when a reminder is due.</extracomment>
+        <translation>Vencimento</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <extracomment>Column: when a reminder was completed, or Yes.</extracomment>
+        <translation>Concluído</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <extracomment>Column: High, Medium or Low.</extracomment>
+        <translation>Prioridade</translation>
+    </message>
+    <message>
+        <source>Flagged</source>
+        <extracomment>Column: whether a reminder bears a flag.</extracomment>
+        <translation>Sinalizado</translation>
+    </message>
+    <message>
+        <source>Repeats</source>
+        <extracomment>Column: whether a reminder comes again.</extracomment>
+        <translation>Repete</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>Alta</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>Média</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <extracomment>Priority of a reminder.</extracomment>
+        <translation>Baixa</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <extracomment>In a column of yes or nothing.</extracomment>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <extracomment>Name of the list of reminders that each phone has.</extracomment>
+        <translation>Lembretes</translation>
+    </message>
+    <message>
+        <source>Web address</source>
+        <extracomment>Column: the address of a web page.</extracomment>
+        <translation>Endereço da web</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <extracomment>Column: what stands before a link, a date or the name of a site.</extracomment>
+        <translation>Etiqueta</translation>
+    </message>
+    <message>
+        <source>%1 has no column %2; it is read as empty.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 não tem a coluna %2; ela é lida como vazia.</translation>
+    </message>
+    <message>
+        <source>%1 has no table %2.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 não tem a tabela %2.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; what can be read of it is there.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 está danificado; o que pode ser lido está presente.</translation>
+    </message>
 </context>
 </TS>
