@@ -31,17 +31,17 @@
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <extracomment>Column: whether a message was sent or received, or a call came in or went out.</extracomment>
         <translation>النوع</translation>
     </message>
     <message>
         <source>Content</source>
-        <extracomment>Column: the text of a message.</extracomment>
+        <extracomment>Column: the text of a message or of a note.</extracomment>
         <translation>المحتوى</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <extracomment>A message whose sending was never completed, or a conversation or a caller without a name.</extracomment>
         <translation>غير معروف</translation>
     </message>
     <message>
@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Notes</source>
-        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <extracomment>Heading: what was noted on a contact or on a reminder.</extracomment>
         <translation>ملاحظات</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
     </message>
     <message>
         <source>Location</source>
-        <extracomment>Where somebody is.</extracomment>
+        <extracomment>A message that tells where somebody is.</extracomment>
         <translation>الموقع</translation>
     </message>
     <message>
@@ -681,6 +681,41 @@
         <translation>التذكيرات</translation>
     </message>
     <message>
+        <source>Folder</source>
+        <extracomment>Column: the folder of a note.</extracomment>
+        <translation>المجلد</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <extracomment>Column: when a note was begun.</extracomment>
+        <translation>تاريخ الإنشاء</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <extracomment>Column: when a note was changed.</extracomment>
+        <translation>تاريخ التعديل</translation>
+    </message>
+    <message>
+        <source>Recently Deleted</source>
+        <extracomment>The folder of deleted notes.</extracomment>
+        <translation>المحذوفة مؤخرًا</translation>
+    </message>
+    <message>
+        <source>Attachment</source>
+        <extracomment>Stands in a note for an attachment without a name.</extracomment>
+        <translation>مرفق</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <extracomment>The name of a drawing in a note that has none of its own; becomes a file name.</extracomment>
+        <translation>رسم</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <extracomment>The name of scanned pages in a note that have none of their own; becomes a file name.</extracomment>
+        <translation>مسح ضوئي</translation>
+    </message>
+    <message>
         <source>Web address</source>
         <extracomment>Column: the address of a web page.</extracomment>
         <translation>عنوان الويب</translation>
@@ -691,9 +726,67 @@
         <translation>التسمية</translation>
     </message>
     <message>
+        <source>The note “%1” names an attachment that its store does not have.</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>تشير الملاحظة «%1» إلى مرفق غير موجود في قاعدة بياناتها.</translation>
+    </message>
+    <message>
+        <source>%1 more notes name attachments that their store does not have.</source>
+        <translation>ملاحظات أخرى تشير إلى مرفقات غير موجودة في قاعدة بياناتها: %1.</translation>
+    </message>
+    <message>
+        <source>A table in the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>تتعذر قراءة جدول في الملاحظة «%1»: %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have tables that cannot be read.</source>
+        <translation>ملاحظات أخرى فيها جداول تتعذر قراءتها: %1.</translation>
+    </message>
+    <message>
+        <source>The text of the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>تتعذر قراءة نص الملاحظة «%1»: %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have texts that cannot be read.</source>
+        <translation>ملاحظات أخرى تتعذر قراءة نصها: %1.</translation>
+    </message>
+    <message>
+        <source>The backup has no file “%1” of the note “%2”.</source>
+        <translation>النسخة الاحتياطية لا تحتوي على الملف «%1» من الملاحظة «%2».</translation>
+    </message>
+    <message>
+        <source>%1 more files of notes are missing in the backup.</source>
+        <translation>ملفات ملاحظات أخرى غير موجودة في النسخة الاحتياطية: %1.</translation>
+    </message>
+    <message>
+        <source>One note was never downloaded to the phone.</source>
+        <translation>لم يتم تنزيل إحدى الملاحظات على الهاتف قط.</translation>
+    </message>
+    <message>
+        <source>%1 notes were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>عدد الملاحظات التي لم يتم تنزيلها على الهاتف قط: %1.</translation>
+    </message>
+    <message>
+        <source>One attachment of a locked note cannot be read.</source>
+        <translation>تتعذر قراءة مرفق ملاحظة مقفلة.</translation>
+    </message>
+    <message>
+        <source>%1 attachments of locked notes cannot be read.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>عدد مرفقات الملاحظات المقفلة التي تتعذر قراءتها: %1.</translation>
+    </message>
+    <message>
         <source>%1 has no column %2; it is read as empty.</source>
         <extracomment>%1 is a file, a database.</extracomment>
         <translation>لا يحتوي %1 على العمود %2؛ سيُقرأ كأنه فارغ.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; what can be read of it is there.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 تالف؛ وما أمكنت قراءته منه موجود.</translation>
     </message>
     <message>
         <source>%1 has no table %2.</source>
@@ -701,9 +794,9 @@
         <translation>لا يحتوي %1 على الجدول %2.</translation>
     </message>
     <message>
-        <source>%1 is damaged; what can be read of it is there.</source>
-        <extracomment>%1 is a file, a database.</extracomment>
-        <translation>%1 تالف؛ وما أمكنت قراءته منه موجود.</translation>
+        <source>the store is damaged</source>
+        <extracomment>A reason, after a colon.</extracomment>
+        <translation>قاعدة البيانات تالفة</translation>
     </message>
 </context>
 </TS>

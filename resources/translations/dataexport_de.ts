@@ -31,17 +31,17 @@
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <extracomment>Column: whether a message was sent or received, or a call came in or went out.</extracomment>
         <translation>Art</translation>
     </message>
     <message>
         <source>Content</source>
-        <extracomment>Column: the text of a message.</extracomment>
+        <extracomment>Column: the text of a message or of a note.</extracomment>
         <translation>Inhalt</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <extracomment>A message whose sending was never completed, or a conversation or a caller without a name.</extracomment>
         <translation>Unbekannt</translation>
     </message>
     <message>
@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Notes</source>
-        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <extracomment>Heading: what was noted on a contact or on a reminder.</extracomment>
         <translation>Notizen</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
     </message>
     <message>
         <source>Location</source>
-        <extracomment>Where somebody is.</extracomment>
+        <extracomment>A message that tells where somebody is.</extracomment>
         <translation>Standort</translation>
     </message>
     <message>
@@ -681,6 +681,41 @@
         <translation>Erinnerungen</translation>
     </message>
     <message>
+        <source>Folder</source>
+        <extracomment>Column: the folder of a note.</extracomment>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <extracomment>Column: when a note was begun.</extracomment>
+        <translation>Erstellt</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <extracomment>Column: when a note was changed.</extracomment>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Recently Deleted</source>
+        <extracomment>The folder of deleted notes.</extracomment>
+        <translation>Zuletzt gelöscht</translation>
+    </message>
+    <message>
+        <source>Attachment</source>
+        <extracomment>Stands in a note for an attachment without a name.</extracomment>
+        <translation>Anhang</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <extracomment>The name of a drawing in a note that has none of its own; becomes a file name.</extracomment>
+        <translation>Zeichnung</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <extracomment>The name of scanned pages in a note that have none of their own; becomes a file name.</extracomment>
+        <translation>Scan</translation>
+    </message>
+    <message>
         <source>Web address</source>
         <extracomment>Column: the address of a web page.</extracomment>
         <translation>Webadresse</translation>
@@ -691,9 +726,67 @@
         <translation>Beschriftung</translation>
     </message>
     <message>
+        <source>The note “%1” names an attachment that its store does not have.</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>Die Notiz „%1“ nennt einen Anhang ohne Eintrag in ihrer Datenbank.</translation>
+    </message>
+    <message>
+        <source>%1 more notes name attachments that their store does not have.</source>
+        <translation>%1 weitere Notizen nennen Anhänge ohne Eintrag in ihrer Datenbank.</translation>
+    </message>
+    <message>
+        <source>A table in the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>Eine Tabelle in der Notiz „%1“ ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have tables that cannot be read.</source>
+        <translation>%1 weitere Notizen haben nicht lesbare Tabellen.</translation>
+    </message>
+    <message>
+        <source>The text of the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>Der Text der Notiz „%1“ ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have texts that cannot be read.</source>
+        <translation>%1 weitere Notizen haben einen nicht lesbaren Text.</translation>
+    </message>
+    <message>
+        <source>The backup has no file “%1” of the note “%2”.</source>
+        <translation>Im Backup fehlt die Datei „%1“ der Notiz „%2“.</translation>
+    </message>
+    <message>
+        <source>%1 more files of notes are missing in the backup.</source>
+        <translation>%1 weitere Dateien von Notizen fehlen im Backup.</translation>
+    </message>
+    <message>
+        <source>One note was never downloaded to the phone.</source>
+        <translation>Eine Notiz wurde nie auf das Telefon geladen.</translation>
+    </message>
+    <message>
+        <source>%1 notes were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 Notizen wurden nie auf das Telefon geladen.</translation>
+    </message>
+    <message>
+        <source>One attachment of a locked note cannot be read.</source>
+        <translation>Ein Anhang einer gesperrten Notiz ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>%1 attachments of locked notes cannot be read.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 Anhänge gesperrter Notizen sind nicht lesbar.</translation>
+    </message>
+    <message>
         <source>%1 has no column %2; it is read as empty.</source>
         <extracomment>%1 is a file, a database.</extracomment>
         <translation>%1 hat keine Spalte %2; sie wird als leer gelesen.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; what can be read of it is there.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 ist beschädigt; das Lesbare daraus ist vorhanden.</translation>
     </message>
     <message>
         <source>%1 has no table %2.</source>
@@ -701,9 +794,9 @@
         <translation>%1 hat keine Tabelle %2.</translation>
     </message>
     <message>
-        <source>%1 is damaged; what can be read of it is there.</source>
-        <extracomment>%1 is a file, a database.</extracomment>
-        <translation>%1 ist beschädigt; das Lesbare daraus ist vorhanden.</translation>
+        <source>the store is damaged</source>
+        <extracomment>A reason, after a colon.</extracomment>
+        <translation>die Datenbank ist beschädigt</translation>
     </message>
 </context>
 </TS>

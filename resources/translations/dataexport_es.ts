@@ -31,17 +31,17 @@
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <extracomment>Column: whether a message was sent or received, or a call came in or went out.</extracomment>
         <translation>Tipo</translation>
     </message>
     <message>
         <source>Content</source>
-        <extracomment>Column: the text of a message.</extracomment>
+        <extracomment>Column: the text of a message or of a note.</extracomment>
         <translation>Contenido</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <extracomment>A message whose sending was never completed, or a conversation or a caller without a name.</extracomment>
         <translation>Desconocido</translation>
     </message>
     <message>
@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Notes</source>
-        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <extracomment>Heading: what was noted on a contact or on a reminder.</extracomment>
         <translation>Notas</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
     </message>
     <message>
         <source>Location</source>
-        <extracomment>Where somebody is.</extracomment>
+        <extracomment>A message that tells where somebody is.</extracomment>
         <translation>Ubicación</translation>
     </message>
     <message>
@@ -681,6 +681,41 @@
         <translation>Recordatorios</translation>
     </message>
     <message>
+        <source>Folder</source>
+        <extracomment>Column: the folder of a note.</extracomment>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <extracomment>Column: when a note was begun.</extracomment>
+        <translation>Creada</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <extracomment>Column: when a note was changed.</extracomment>
+        <translation>Modificada</translation>
+    </message>
+    <message>
+        <source>Recently Deleted</source>
+        <extracomment>The folder of deleted notes.</extracomment>
+        <translation>Eliminado</translation>
+    </message>
+    <message>
+        <source>Attachment</source>
+        <extracomment>Stands in a note for an attachment without a name.</extracomment>
+        <translation>Archivo adjunto</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <extracomment>The name of a drawing in a note that has none of its own; becomes a file name.</extracomment>
+        <translation>Dibujo</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <extracomment>The name of scanned pages in a note that have none of their own; becomes a file name.</extracomment>
+        <translation>Escaneado</translation>
+    </message>
+    <message>
         <source>Web address</source>
         <extracomment>Column: the address of a web page.</extracomment>
         <translation>Dirección web</translation>
@@ -691,9 +726,67 @@
         <translation>Etiqueta</translation>
     </message>
     <message>
+        <source>The note “%1” names an attachment that its store does not have.</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>La nota «%1» nombra un archivo adjunto que no está en su base de datos.</translation>
+    </message>
+    <message>
+        <source>%1 more notes name attachments that their store does not have.</source>
+        <translation>Otras %1 notas nombran archivos adjuntos que no están en su base de datos.</translation>
+    </message>
+    <message>
+        <source>A table in the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>No se puede leer una tabla de la nota «%1»: %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have tables that cannot be read.</source>
+        <translation>Otras %1 notas tienen tablas que no se pueden leer.</translation>
+    </message>
+    <message>
+        <source>The text of the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>No se puede leer el texto de la nota «%1»: %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have texts that cannot be read.</source>
+        <translation>Otras %1 notas tienen un texto que no se puede leer.</translation>
+    </message>
+    <message>
+        <source>The backup has no file “%1” of the note “%2”.</source>
+        <translation>La copia de seguridad no contiene el archivo «%1» de la nota «%2».</translation>
+    </message>
+    <message>
+        <source>%1 more files of notes are missing in the backup.</source>
+        <translation>Faltan otros %1 archivos de notas en la copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>One note was never downloaded to the phone.</source>
+        <translation>Una nota nunca se descargó en el teléfono.</translation>
+    </message>
+    <message>
+        <source>%1 notes were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 notas nunca se descargaron en el teléfono.</translation>
+    </message>
+    <message>
+        <source>One attachment of a locked note cannot be read.</source>
+        <translation>No se puede leer un archivo adjunto de una nota bloqueada.</translation>
+    </message>
+    <message>
+        <source>%1 attachments of locked notes cannot be read.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>No se pueden leer %1 archivos adjuntos de notas bloqueadas.</translation>
+    </message>
+    <message>
         <source>%1 has no column %2; it is read as empty.</source>
         <extracomment>%1 is a file, a database.</extracomment>
         <translation>%1 no tiene la columna %2; se lee como vacía.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; what can be read of it is there.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 está dañado; lo que se puede leer está incluido.</translation>
     </message>
     <message>
         <source>%1 has no table %2.</source>
@@ -701,9 +794,9 @@
         <translation>%1 no tiene la tabla %2.</translation>
     </message>
     <message>
-        <source>%1 is damaged; what can be read of it is there.</source>
-        <extracomment>%1 is a file, a database.</extracomment>
-        <translation>%1 está dañado; lo que se puede leer está incluido.</translation>
+        <source>the store is damaged</source>
+        <extracomment>A reason, after a colon.</extracomment>
+        <translation>la base de datos está dañada</translation>
     </message>
 </context>
 </TS>

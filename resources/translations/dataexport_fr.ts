@@ -31,17 +31,17 @@
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <extracomment>Column: whether a message was sent or received, or a call came in or went out.</extracomment>
         <translation>Type</translation>
     </message>
     <message>
         <source>Content</source>
-        <extracomment>Column: the text of a message.</extracomment>
+        <extracomment>Column: the text of a message or of a note.</extracomment>
         <translation>Contenu</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <extracomment>A message whose sending was never completed, or a conversation or a caller without a name.</extracomment>
         <translation>Inconnu</translation>
     </message>
     <message>
@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Notes</source>
-        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <extracomment>Heading: what was noted on a contact or on a reminder.</extracomment>
         <translation>Notes</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
     </message>
     <message>
         <source>Location</source>
-        <extracomment>Where somebody is.</extracomment>
+        <extracomment>A message that tells where somebody is.</extracomment>
         <translation>Position</translation>
     </message>
     <message>
@@ -681,6 +681,41 @@
         <translation>Rappels</translation>
     </message>
     <message>
+        <source>Folder</source>
+        <extracomment>Column: the folder of a note.</extracomment>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <extracomment>Column: when a note was begun.</extracomment>
+        <translation>Créée</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <extracomment>Column: when a note was changed.</extracomment>
+        <translation>Modifiée</translation>
+    </message>
+    <message>
+        <source>Recently Deleted</source>
+        <extracomment>The folder of deleted notes.</extracomment>
+        <translation>Suppressions récentes</translation>
+    </message>
+    <message>
+        <source>Attachment</source>
+        <extracomment>Stands in a note for an attachment without a name.</extracomment>
+        <translation>Pièce jointe</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <extracomment>The name of a drawing in a note that has none of its own; becomes a file name.</extracomment>
+        <translation>Dessin</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <extracomment>The name of scanned pages in a note that have none of their own; becomes a file name.</extracomment>
+        <translation>Document numérisé</translation>
+    </message>
+    <message>
         <source>Web address</source>
         <extracomment>Column: the address of a web page.</extracomment>
         <translation>Adresse web</translation>
@@ -691,9 +726,67 @@
         <translation>Libellé</translation>
     </message>
     <message>
+        <source>The note “%1” names an attachment that its store does not have.</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>La note « %1 » cite une pièce jointe absente de sa base.</translation>
+    </message>
+    <message>
+        <source>%1 more notes name attachments that their store does not have.</source>
+        <translation>%1 autres notes citent des pièces jointes absentes de leur base.</translation>
+    </message>
+    <message>
+        <source>A table in the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>Un tableau de la note « %1 » est illisible : %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have tables that cannot be read.</source>
+        <translation>%1 autres notes contiennent des tableaux illisibles.</translation>
+    </message>
+    <message>
+        <source>The text of the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>Le texte de la note « %1 » est illisible : %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have texts that cannot be read.</source>
+        <translation>%1 autres notes ont un texte illisible.</translation>
+    </message>
+    <message>
+        <source>The backup has no file “%1” of the note “%2”.</source>
+        <translation>La sauvegarde ne contient pas le fichier « %1 » de la note « %2 ».</translation>
+    </message>
+    <message>
+        <source>%1 more files of notes are missing in the backup.</source>
+        <translation>%1 autres fichiers de notes manquent dans la sauvegarde.</translation>
+    </message>
+    <message>
+        <source>One note was never downloaded to the phone.</source>
+        <translation>Une note n’a jamais été téléchargée sur le téléphone.</translation>
+    </message>
+    <message>
+        <source>%1 notes were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 notes n’ont jamais été téléchargées sur le téléphone.</translation>
+    </message>
+    <message>
+        <source>One attachment of a locked note cannot be read.</source>
+        <translation>Une pièce jointe d’une note verrouillée est illisible.</translation>
+    </message>
+    <message>
+        <source>%1 attachments of locked notes cannot be read.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 pièces jointes de notes verrouillées sont illisibles.</translation>
+    </message>
+    <message>
         <source>%1 has no column %2; it is read as empty.</source>
         <extracomment>%1 is a file, a database.</extracomment>
-        <translation>%1 n’a pas de colonne %2 ; elle est lue comme vide.</translation>
+        <translation>%1 n’a pas de colonne %2 ; elle est lue comme vide.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; what can be read of it is there.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 est endommagé ; ce qui peut en être lu est présent.</translation>
     </message>
     <message>
         <source>%1 has no table %2.</source>
@@ -701,9 +794,9 @@
         <translation>%1 n’a pas de table %2.</translation>
     </message>
     <message>
-        <source>%1 is damaged; what can be read of it is there.</source>
-        <extracomment>%1 is a file, a database.</extracomment>
-        <translation>%1 est endommagé ; ce qui peut en être lu est présent.</translation>
+        <source>the store is damaged</source>
+        <extracomment>A reason, after a colon.</extracomment>
+        <translation>la base de données est endommagée</translation>
     </message>
 </context>
 </TS>

@@ -31,17 +31,17 @@
     </message>
     <message>
         <source>Type</source>
-        <extracomment>Column: whether a message was sent or received.</extracomment>
+        <extracomment>Column: whether a message was sent or received, or a call came in or went out.</extracomment>
         <translation>Tipo</translation>
     </message>
     <message>
         <source>Content</source>
-        <extracomment>Column: the text of a message.</extracomment>
+        <extracomment>Column: the text of a message or of a note.</extracomment>
         <translation>Contenuto</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <extracomment>A message whose sending was never completed, or a conversation without a name.</extracomment>
+        <extracomment>A message whose sending was never completed, or a conversation or a caller without a name.</extracomment>
         <translation>Sconosciuto</translation>
     </message>
     <message>
@@ -318,7 +318,7 @@
     </message>
     <message>
         <source>Notes</source>
-        <extracomment>Heading: what was noted on a contact.</extracomment>
+        <extracomment>Heading: what was noted on a contact or on a reminder.</extracomment>
         <translation>Note</translation>
     </message>
     <message>
@@ -516,7 +516,7 @@
     </message>
     <message>
         <source>Location</source>
-        <extracomment>Where somebody is.</extracomment>
+        <extracomment>A message that tells where somebody is.</extracomment>
         <translation>Posizione</translation>
     </message>
     <message>
@@ -681,6 +681,41 @@
         <translation>Promemoria</translation>
     </message>
     <message>
+        <source>Folder</source>
+        <extracomment>Column: the folder of a note.</extracomment>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <extracomment>Column: when a note was begun.</extracomment>
+        <translation>Creata</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <extracomment>Column: when a note was changed.</extracomment>
+        <translation>Modificata</translation>
+    </message>
+    <message>
+        <source>Recently Deleted</source>
+        <extracomment>The folder of deleted notes.</extracomment>
+        <translation>Eliminate di recente</translation>
+    </message>
+    <message>
+        <source>Attachment</source>
+        <extracomment>Stands in a note for an attachment without a name.</extracomment>
+        <translation>Allegato</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <extracomment>The name of a drawing in a note that has none of its own; becomes a file name.</extracomment>
+        <translation>Disegno</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <extracomment>The name of scanned pages in a note that have none of their own; becomes a file name.</extracomment>
+        <translation>Scansione</translation>
+    </message>
+    <message>
         <source>Web address</source>
         <extracomment>Column: the address of a web page.</extracomment>
         <translation>Indirizzo web</translation>
@@ -691,9 +726,67 @@
         <translation>Etichetta</translation>
     </message>
     <message>
+        <source>The note “%1” names an attachment that its store does not have.</source>
+        <extracomment>%1 is the title of a note.</extracomment>
+        <translation>La nota «%1» cita un allegato che non è nel suo archivio.</translation>
+    </message>
+    <message>
+        <source>%1 more notes name attachments that their store does not have.</source>
+        <translation>Altre %1 note citano allegati che non sono nel loro archivio.</translation>
+    </message>
+    <message>
+        <source>A table in the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>Una tabella della nota «%1» non si può leggere: %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have tables that cannot be read.</source>
+        <translation>Altre %1 note hanno tabelle che non si possono leggere.</translation>
+    </message>
+    <message>
+        <source>The text of the note “%1” cannot be read: %2</source>
+        <extracomment>%1 is the title of a note. %2 is the reason.</extracomment>
+        <translation>Il testo della nota «%1» non si può leggere: %2</translation>
+    </message>
+    <message>
+        <source>%1 more notes have texts that cannot be read.</source>
+        <translation>Altre %1 note hanno un testo che non si può leggere.</translation>
+    </message>
+    <message>
+        <source>The backup has no file “%1” of the note “%2”.</source>
+        <translation>Il backup non contiene il file «%1» della nota «%2».</translation>
+    </message>
+    <message>
+        <source>%1 more files of notes are missing in the backup.</source>
+        <translation>Nel backup mancano altri %1 file di note.</translation>
+    </message>
+    <message>
+        <source>One note was never downloaded to the phone.</source>
+        <translation>Una nota non è mai stata scaricata sul telefono.</translation>
+    </message>
+    <message>
+        <source>%1 notes were never downloaded to the phone.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 note non sono mai state scaricate sul telefono.</translation>
+    </message>
+    <message>
+        <source>One attachment of a locked note cannot be read.</source>
+        <translation>Un allegato di una nota bloccata non si può leggere.</translation>
+    </message>
+    <message>
+        <source>%1 attachments of locked notes cannot be read.</source>
+        <extracomment>%1 is 2 or more.</extracomment>
+        <translation>%1 allegati di note bloccate non si possono leggere.</translation>
+    </message>
+    <message>
         <source>%1 has no column %2; it is read as empty.</source>
         <extracomment>%1 is a file, a database.</extracomment>
         <translation>%1 non ha la colonna %2; viene letta come vuota.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged; what can be read of it is there.</source>
+        <extracomment>%1 is a file, a database.</extracomment>
+        <translation>%1 è danneggiato; ciò che si può leggere è presente.</translation>
     </message>
     <message>
         <source>%1 has no table %2.</source>
@@ -701,9 +794,9 @@
         <translation>%1 non ha la tabella %2.</translation>
     </message>
     <message>
-        <source>%1 is damaged; what can be read of it is there.</source>
-        <extracomment>%1 is a file, a database.</extracomment>
-        <translation>%1 è danneggiato; ciò che si può leggere è presente.</translation>
+        <source>the store is damaged</source>
+        <extracomment>A reason, after a colon.</extracomment>
+        <translation>il database è danneggiato</translation>
     </message>
 </context>
 </TS>
