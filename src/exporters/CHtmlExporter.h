@@ -14,7 +14,7 @@ inline constexpr QLatin1String kDeletedIcon = "deleted.png"_L1;
 
 /// One page in the category's directory, with all that it links to in a directory "image" beside
 /// it. The exporter writes the frame, a translator the body. An object serves one page.
-class CHtmlExporter final : public CIDataExporter {
+class CHtmlExporter : public CIDataExporter {
 public:
     CHtmlExporter();
 

@@ -8,6 +8,15 @@
 /// Whether the loop opens and closes each record at the exporter.
 enum class ItemCalls { None, BeginAndEnd };
 
+/// What one of `records` selected records is worth on the scale of `progress`; 0 without any.
+inline double progressUnit(CIProgressCallback* progress, int records)
+{
+    if (progress == nullptr || records == 0) {
+        return 0.0;
+    }
+    return static_cast<double>(progress->range()) / static_cast<double>(records);
+}
+
 /// One record of the walk. False when it could not be written; one that the exporter refuses is
 /// passed over and no failure.
 template <typename Item, ItemCalls kItemCalls, typename Translator>
@@ -35,10 +44,7 @@ bool translateRecords(Translator& translator, const PRData& data, CIDataExporter
         return false;
     }
     const QList<int> rows = data.recoverList();
-    double unit = 0.0;
-    if (progress != nullptr && !rows.isEmpty()) {
-        unit = static_cast<double>(progress->range()) / static_cast<double>(rows.size());
-    }
+    const double unit = progressUnit(progress, rows.size());
     if (!translator.writeHeader(exporter)) {
         return false;
     }

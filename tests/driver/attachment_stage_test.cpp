@@ -188,8 +188,8 @@ protected:
 TEST_F(AttachmentStage, HasAScaleOfBothWeightsAndAHundredUnitsForEachAddress)
 {
     EXPECT_EQ(callsFor({3, 14, 15}),
-        QStringList({"initRange 600", "step 100", "step 200", "step 300", "step 0", "initRange 800",
-            "setAttachStage true", "step 0", "step 0", "finish"}));
+        QStringList({"initRange 600", "step 100", "step 0", "step 200", "step 300", "step 0",
+            "initRange 800", "setAttachStage true", "step 0", "step 0", "finish"}));
 }
 
 TEST_F(AttachmentStage, OfTheChatsAloneHasNoFiles)
@@ -206,14 +206,15 @@ TEST_F(AttachmentStage, OfTheFilesAloneHasNoChats)
 
 TEST_F(AttachmentStage, DoesNotTakePlaceWithoutEither)
 {
-    EXPECT_EQ(callsFor({3}), QStringList({"initRange 100", "step 100", "finish"}));
+    EXPECT_EQ(callsFor({3}), QStringList({"initRange 100", "step 100", "step 0", "finish"}));
 }
 
 TEST_F(AttachmentStage, DoesNotTakePlaceWhenNoneOfEitherIsSelected)
 {
     backup.add(plainSet(14, 0, 2));
     backup.add(plainSet(15, 0, 2));
-    EXPECT_EQ(callsFor({3, 14, 15}), QStringList({"initRange 100", "step 100", "finish"}));
+    EXPECT_EQ(
+        callsFor({3, 14, 15}), QStringList({"initRange 100", "step 100", "step 0", "finish"}));
 }
 
 TEST_F(AttachmentStage, TakesPlaceWithNothingToFetch)

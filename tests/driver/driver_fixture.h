@@ -80,3 +80,17 @@ private:
 /// The 36 data types in the order in which they are counted and written.
 inline const QVector<int> kTableOrder{21, 22, 23, 2, 0, 1, 3, 29, 27, 28, 30, 31, 32, 33, 34, 5, 6,
     7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 24, 25, 26, 35, 4};
+
+/// The steps that a category of plain records passes on: the pages of tables and of bookmarks take
+/// one for each record and one at their end, all others one for the whole.
+inline QStringList stepsOf(int dataType, int records)
+{
+    if (!QVector<int>{3, 13, 27, 30, 33, 34}.contains(dataType)) {
+        return {QStringLiteral("step %1").arg(100 * records)};
+    }
+    QStringList steps;
+    for (int i = 0; i < records; ++i) {
+        steps.append("step 100");
+    }
+    return steps + QStringList{"step 0"};
+}

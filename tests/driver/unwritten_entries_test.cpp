@@ -14,11 +14,9 @@ TEST_F(UnwrittenEntries, FailWithoutATrace)
         const char* what;
         access_to::Entry entry;
     } const rows[] = {
-        {"bookmarks", access_to::exportBookmark()},
         {"calendar", access_to::exportCalendarIcs()},
         {"contacts", access_to::exportContact()},
         {"files", access_to::exportFile()},
-        {"tables", access_to::exportHtml()},
         {"chat contacts", access_to::exportWeichatContact()},
         {"chats", access_to::exportWhatsapp()},
         {"chat page", access_to::exportWhatsappHtml()},
@@ -34,9 +32,13 @@ TEST_F(UnwrittenEntries, FailWithoutATrace)
     }
 }
 
-TEST_F(UnwrittenEntries, ServeAllTypesButTheMessages)
+TEST_F(UnwrittenEntries, ServeAllTypesButMessagesTablesAndBookmarks)
 {
-    for (int type = 1; type < 36; ++type) {
+    const QVector<int> written{0, 3, 13, 27, 30, 33, 34};
+    for (int type = 0; type < 36; ++type) {
+        if (written.contains(type)) {
+            continue;
+        }
         SCOPED_TRACE(type);
         PRBackup backup;
         backup.add(
