@@ -176,6 +176,20 @@ TEST_F(OpenSourceTest, DatabaseOfAnotherKindIsAnErrorThatNamesItsTables)
     EXPECT_TRUE(opened.error().what.contains("fruit, nuts")) << opened.error().what.toStdString();
 }
 
+TEST_F(OpenSourceTest, DatabaseFileOfSeveralKindsGivesThemAll)
+{
+    const QString path = m_directory.filePath("several.db");
+    writeFile(path, databaseBytes({"CREATE TABLE call (address, date, duration, flags)",
+                                      "INSERT INTO call VALUES ('0401', 1338544800, 1, 4)",
+                                      "CREATE TABLE bookmarks (id, parent, type, title, url)",
+                                      "INSERT INTO bookmarks VALUES (1, 0, 0, 'a', 'https://a.b')"})
+                        .file);
+    auto opened = backup::openDatabaseFile(path);
+    ASSERT_TRUE(opened.has_value());
+    EXPECT_EQ(opened->records.getPRData(3)->value(0, 1), "0401");
+    EXPECT_EQ(opened->records.getPRData(33)->value(0, 0), "a");
+}
+
 TEST_F(OpenSourceTest, SampleBackupOpensWithoutANotice)
 {
     const QString sample = QStringLiteral(DATAEXPORT_BUILD_DIR "/samples/backup");
