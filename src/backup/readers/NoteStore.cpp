@@ -55,6 +55,10 @@ NoteStore::NoteStore(OpenedDatabase database, const FileLocator& files, Notices&
     if (query) {
         m_bodies = std::move(*query);
     }
+    if (m_rows.damaged) {
+        notices.add(
+            tr("%1 is damaged; what can be read of it is there.").arg("NoteStore.sqlite"_L1));
+    }
     noteCount(notices, m_rows.leftOut,
         QT_TRANSLATE_NOOP("DataExport", "One note was never downloaded to the phone."),
         QT_TRANSLATE_NOOP("DataExport", "%1 notes were never downloaded to the phone."));
@@ -74,7 +78,8 @@ const NoteAttachments& NoteStore::attachments()
     return *m_attachments;
 }
 
-QByteArray NoteStore::body(const NoteRow& row)
+// None where its row cannot be read; empty for a note without a text.
+std::optional<QByteArray> NoteStore::body(const NoteRow& row)
 {
     m_bodies.reset();
     m_bodies.bind(1, row.bodyId);
@@ -82,7 +87,11 @@ QByteArray NoteStore::body(const NoteRow& row)
     if (m_bodies.next()) {
         data = m_bodies.blob(0);
     }
+    const bool isDamaged = m_bodies.failed();
     m_bodies.reset();
+    if (isDamaged) {
+        return std::nullopt;
+    }
     if (data.startsWith(kInRow)) {
         return data.mid(1);
     }
@@ -102,11 +111,14 @@ NoteContent NoteStore::load(std::size_t index)
     if (note.locked) {
         return {};
     }
-    const QByteArray data = body(row);
-    if (data.isEmpty()) { // new and empty, or not downloaded
+    const std::optional<QByteArray> data = body(row);
+    if (!data) {
+        return damaged(index, tr("the store is damaged"));
+    }
+    if (data->isEmpty()) { // new and empty, or not downloaded
         return plainContent(row.snippet);
     }
-    const auto parsed = formats::parseNoteBody(bytesOf(data));
+    const auto parsed = formats::parseNoteBody(bytesOf(*data));
     if (!parsed) {
         return damaged(index, parsed.error().what);
     }

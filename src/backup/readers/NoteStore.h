@@ -31,7 +31,7 @@ protected:
 
 private:
     const NoteAttachments& attachments();
-    QByteArray body(const NoteRow& row);
+    std::optional<QByteArray> body(const NoteRow& row);
     NoteContent damaged(std::size_t index, const QString& why);
     void addFiles(std::vector<NoteFile>& files, const NoteAttachment& attachment,
         std::optional<std::size_t> note);

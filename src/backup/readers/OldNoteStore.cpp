@@ -7,6 +7,7 @@
 //   ZNOTEATTACHMENT (ZNOTE, ZCONTENTID, ZFILENAME)
 #include "backup/readers/OldNoteStore.h"
 
+#include "backup/container/Notices.h"
 #include "backup/readers/core_data.h"
 #include "backup/readers/html_text.h"
 #include "backup/readers/note_content.h"
@@ -28,7 +29,8 @@ QString columnOf(const formats::Database& database, QLatin1String table, QLatin1
 
 } // namespace
 
-OldNoteStore::OldNoteStore(OpenedDatabase database) : m_database(std::move(database))
+OldNoteStore::OldNoteStore(OpenedDatabase database, Notices& notices)
+    : m_database(std::move(database)), m_notices(notices)
 {
     readNotes();
     auto bodies = m_database.database.prepare(
@@ -79,6 +81,11 @@ void OldNoteStore::readNotes()
             .modified = rows->real(Modified),
             .deleted = rows->integer(IsDeleted) != 0});
         m_ids.push_back(rows->integer(Id));
+    }
+    if (!rows || rows->failed()) {
+        m_notices.add(QCoreApplication::translate(
+            "DataExport", "%1 is damaged; what can be read of it is there.")
+                          .arg("notes.sqlite"_L1));
     }
 }
 

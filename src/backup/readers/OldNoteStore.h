@@ -8,11 +8,14 @@
 
 namespace backup {
 
+class Notices;
+
 /// The store of notes of iOS 4 to 8, notes.sqlite; on later phones it keeps the notes of mail
 /// accounts. At opening it reads the list of notes, texts note by note.
 class OldNoteStore final : public NoteSource {
 public:
-    explicit OldNoteStore(OpenedDatabase database);
+    /// `notices` outlives the store.
+    OldNoteStore(OpenedDatabase database, Notices& notices);
 
     static bool isOldNoteStore(const formats::Database& database);
 
@@ -28,6 +31,7 @@ private:
     QString attachmentName(qint64 note, const QString& contentId);
 
     OpenedDatabase m_database;
+    Notices& m_notices;
     std::vector<NoteEntry> m_notes;
     std::vector<qint64> m_ids;
     formats::Statement m_bodies;

@@ -69,7 +69,7 @@ public:
     {
         while (m_at < m_html.size()) {
             const QChar c = m_html[m_at];
-            if (c == QChar(u'<')) {
+            if (isTag()) {
                 readTag();
             } else if (c == QChar(u'&')) {
                 readEntity();
@@ -82,6 +82,14 @@ public:
     }
 
 private:
+    // Any other "<" is a character of the text.
+    bool isTag() const
+    {
+        const bool isLast = m_at + 1 == m_html.size();
+        const QChar next = isLast || m_html[m_at] != QChar(u'<') ? QChar() : m_html[m_at + 1];
+        return next.isLetter() || next == QChar(u'/') || next == QChar(u'!');
+    }
+
     void readTag()
     {
         const int end = m_html.indexOf(QChar(u'>'), m_at);

@@ -14,6 +14,8 @@
 #include <QHash>
 #include <QRegularExpression>
 
+#include <cstdint>
+
 namespace backup {
 
 namespace {
@@ -165,19 +167,35 @@ private:
                    : QStringLiteral("o.Z_PK IN (SELECT ZNOTE FROM ZICNOTEDATA)");
     }
 
+    // Around a damaged page the notes before it come first, then those behind it from the last on.
     void readNotes()
     {
-        auto rows = select(
+        auto rows = selectNotes({});
+        qint64 last = INT64_MIN;
+        while (rows.next()) {
+            last = rows.integer(Id);
+            addNote(rows);
+        }
+        if (!rows.failed()) {
+            return;
+        }
+        m_result.damaged = true;
+        auto backwards = selectNotes(" DESC"_L1);
+        while (backwards.next() && backwards.integer(Id) > last) {
+            addNote(backwards);
+        }
+    }
+
+    formats::Statement selectNotes(const QString& direction)
+    {
+        return select(
             {"o.Z_PK"_L1, first({"ZTITLE1"_L1, "ZTITLE2"_L1, "ZTITLE"_L1}), first({"ZSNIPPET"_L1}),
                 first({"ZCREATIONDATE3"_L1, "ZCREATIONDATE1"_L1, "ZCREATIONDATE"_L1}),
                 first({"ZMODIFICATIONDATE1"_L1, "ZMODIFICATIONDATE"_L1}),
                 first({"ZMARKEDFORDELETION"_L1}), first({"ZISPASSWORDPROTECTED"_L1}),
                 first({"ZFOLDER"_L1}), accountColumn(m_database, "ICNote"_L1),
                 first({"ZNOTEDATA"_L1})},
-            "WHERE "_L1 + isNote() + " ORDER BY o.Z_PK"_L1);
-        while (rows.next()) {
-            addNote(rows);
-        }
+            "WHERE "_L1 + isNote() + " ORDER BY o.Z_PK"_L1 + direction);
     }
 
     void addNote(const formats::Statement& columns)

@@ -25,6 +25,7 @@ struct NoteRows {
     std::vector<NoteRow> rows;
     QStringList accountIds; ///< of all accounts
     int leftOut = 0;        ///< notes without anything to show, neither text nor title
+    bool damaged = false;   ///< some rows could not be read
 };
 
 NoteRows readNoteRows(const formats::Database& database);

@@ -72,7 +72,8 @@ void addNotes(FoundDatabase found, OpenedBackup& opened)
 
 void addOldNotes(FoundDatabase found, OpenedBackup& opened)
 {
-    addNoteStore(std::make_unique<OldNoteStore>(std::move(found.database)), opened);
+    addNoteStore(
+        std::make_unique<OldNoteStore>(std::move(found.database), *opened.notices), opened);
 }
 
 // The set of this kind, which several databases may fill.
