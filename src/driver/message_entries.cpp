@@ -2,15 +2,31 @@
 // The categories of conversations: messages, chats and chat contacts.
 #include "driver/CBackupExporter.h"
 #include "driver/stage.h"
+#include "exporters/CHtmlExporter.h"
 #include "exporters/CPlainFileExporter.h"
 #include "model/CSubProgress.h"
 #include "model/PRData.h"
 #include "platform/literals.h"
 #include "translators/message/CSMS2CSVTranslate.h"
+#include "translators/message/CSMS2HtmlTranslate.h"
 
 #include <QDir>
 
 namespace {
+
+bool writeSmsPage(PRSMSData* data, const QDir& dir, const QString& ownerName,
+    const QString& categoryName, CIProgressCallback* progress)
+{
+    CHtmlExporter exporter;
+    CSMS2HtmlTranslate translator(data);
+    exporter.setHeadText(smsStyleSheet());
+    progress->initRange(100);
+    const bool written =
+        exporter.openExport(dir, ownerName, categoryName)
+        && translator.translate(&exporter, exportTitle(ownerName, categoryName), progress);
+    exporter.closeExport(written);
+    return written;
+}
 
 bool writeSmsCsv(PRSMSData* data, const QDir& dir, const QString& ownerName,
     const QString& categoryName, CIProgressCallback* progress)
@@ -38,9 +54,8 @@ bool CBackupExporter::exportSMS(PRData* data, const QDir& dir, const QString& ow
         return false;
     }
     CSubProgress sub(progress, stageShare(progress, 2));
-    sub.initRange(100); // the place of the page of speech bubbles
-    bool written = true;
-    if (sub.finish()) {
+    bool written = writeSmsPage(messages, dir, ownerName, categoryName, &sub);
+    if (sub.finish() && written) {
         written = writeSmsCsv(messages, dir, ownerName, categoryName, &sub);
     }
     sub.finish(); // a cancel shows at the driver's own scale

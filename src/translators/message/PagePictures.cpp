@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "translators/message/PagePictures.h"
+
+#include "exporters/CIDataExporter.h"
+#include "translators/message/bubble.h"
+
+#include <QBuffer>
+#include <QImage>
+
+namespace {
+
+constexpr int kLargestSide = 250; // pixels
+
+} // namespace
+
+QString PagePictures::add(CIDataExporter& exporter, const QByteArray& png)
+{
+    const QString name = QStringLiteral("%1.png").arg(m_next);
+    ++m_next;
+    exporter.exportData(png, name); // not tested: the page goes on without it
+    return imagePath(name);
+}
+
+bool isTooLarge(const QImage& picture)
+{
+    return picture.width() > kLargestSide || picture.height() > kLargestSide;
+}
+
+QImage fitted(const QImage& picture)
+{
+    return picture.scaled(
+        kLargestSide, kLargestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+QByteArray pngOf(const QImage& picture)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "PNG");
+    return bytes;
+}
