@@ -55,6 +55,7 @@ TEST_F(ExportTranscript, TellsWhatIsWrittenAndWhatIsNot)
     EXPECT_EQ(withoutPercentages(exported.errors), expected);
     EXPECT_EQ(exported.status, AllDone);
     EXPECT_TRUE(tree.exists("out/Messages/Anna's Messages.csv"));
+    EXPECT_EQ(tree.read("out/Messages/Anna's Messages.html").count("<div class=\"main\">"), 3);
 }
 
 TEST_F(ExportTranscript, SaysNothingWhenQuiet)
@@ -179,21 +180,37 @@ TEST_F(ExportTranscript, DumpThatCannotBeWrittenFails)
 
 TEST_F(ExportTranscript, AnInterruptKeepsWhatIsWritten)
 {
-    tree.write("large.json", largeRecordSet(12'000));
+    tree.write("large.json", largeRecordSet(6'000));
     ASSERT_EQ(run({"export", "--quiet", "large.json", "whole"}).status, AllDone);
-    for (const int signal : {SIGINT, SIGTERM}) {
-        SCOPED_TRACE(signal);
-        const QString target = QString("part%1").arg(signal);
-        const Outcome cancelled = interruptProgramIn(
-            tree.path(), {"export", "large.json", target}, "Messages: 50 %", signal);
+    const QByteArray wholePage = tree.read("whole/Messages/iPhone's Messages.html");
+    const QByteArray wholeCsv = tree.read("whole/Messages/iPhone's Messages.csv");
+    struct {
+        int signal;
+        const char* cue; // the first half is the page's, the second the CSV's
+        bool pageIsWhole;
+        bool hasCsv;
+    } const rows[] = {
+        {SIGINT, "Messages: 20 %", false, false},
+        {SIGTERM, "Messages: 60 %", true, true},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.cue);
+        const QString target = QString("part%1").arg(row.signal);
+        const Outcome cancelled =
+            interruptProgramIn(tree.path(), {"export", "large.json", target}, row.cue, row.signal);
         EXPECT_EQ(cancelled.output, "");
         EXPECT_TRUE(cancelled.errors.endsWith(
             "dataexport: cancelled; what was written is kept in " + target.toUtf8() + "\n"))
             << cancelled.errors.toStdString();
         EXPECT_EQ(cancelled.status, Cancelled);
-        const QString file = target + "/Messages/iPhone's Messages.csv";
-        EXPECT_TRUE(tree.exists(file));
-        EXPECT_LT(tree.read(file).size(), tree.read("whole/Messages/iPhone's Messages.csv").size());
+        const QByteArray page = tree.read(target + "/Messages/iPhone's Messages.html");
+        EXPECT_EQ(page.size() == wholePage.size(), row.pageIsWhole);
+        EXPECT_TRUE(page.endsWith("</body></html>"));
+        const QString csv = target + "/Messages/iPhone's Messages.csv";
+        ASSERT_EQ(tree.exists(csv), row.hasCsv);
+        if (row.hasCsv) {
+            EXPECT_LT(tree.read(csv).size(), wholeCsv.size());
+        }
     }
 }
 

@@ -74,6 +74,16 @@ TEST_F(Language, OfTheOptionIsThatOfLabelsAndOfNothingElse)
     }
 }
 
+TEST_F(Language, OfTheOptionIsThatOfThePageToo)
+{
+    exportedText({"--language", "de"});
+    const QByteArray page = tree.read("out/Messages/Anna's Messages.html");
+    EXPECT_TRUE(page.contains("<title>Anna's Messages</title>")) << "the file's name";
+    EXPECT_TRUE(page.contains("<h1>Messages von Anna</h1>"));
+    EXPECT_TRUE(page.contains("<h2>Name: Mia&nbsp;&nbsp;Telefon: &nbsp;&nbsp;E-Mail: </h2>"));
+    EXPECT_TRUE(page.contains("<br>Datum: 2024-05-01 14:30</p>"));
+}
+
 TEST_F(Language, OfTheLocaleHoldsWhereThereIsNoOption)
 {
     struct LocaleRow {

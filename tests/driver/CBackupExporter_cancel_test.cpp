@@ -13,7 +13,8 @@ using support::RecordingProgress;
 
 struct CancelRow {
     const char* calls;
-    int csvRows; // -1: no file
+    int pageConversations; // -1: no file
+    int csvRows;           // likewise
 };
 
 class Cancel : public DriverTest {
@@ -30,6 +31,7 @@ protected:
                 CBackupExporter().exportBackup(&backup, root(), &progress, types, false, "Anna"));
             EXPECT_EQ(progress.calls().join(", ").toStdString(),
                 QString(row.calls).remove('*').toStdString());
+            EXPECT_EQ(pageConversations(), row.pageConversations);
             EXPECT_EQ(csvRows(), row.csvRows);
         }
         EXPECT_EQ(QString(rows.back().calls).count("step"), cancelAt - 1)
@@ -42,22 +44,29 @@ TEST_F(Cancel, WithoutAttachmentsEndsTheLoopAndFinishes)
     PRBackup backup;
     backup.add(smsSet(2));
     backup.add(plainSet(3, 1));
+    // The conversations of the page, its end, the rows of the CSV, its end, the category's end;
+    // type 3. A category's end passes on what is left of its weight, cancelled or not.
     expectRows(backup, {0, 3},
         {
-            // The page's place, the rows of the CSV, its end, the category's end; the row of
-            // type 3 and its category's end.
-            // A category's end passes on what is left of its weight, cancelled or not.
-            {"initRange 300, step 100*, step 0, step 100, finish", -1},
-            {"initRange 300, step 100, step 50*, step 50, step 0, finish", 0},
-            {"initRange 300, step 100, step 50, step 50*, step 0, step 0, finish", 1},
-            {"initRange 300, step 100, step 50, step 50, step 0*, step 0, finish", 2},
-            {"initRange 300, step 100, step 50, step 50, step 0, step 0*, finish", 2},
-            {"initRange 300, step 100, step 50, step 50, step 0, step 0, step 100*, step 0, finish",
-                2},
-            {"initRange 300, step 100, step 50, step 50, step 0, step 0, step 100, step 0*, finish",
-                2},
-            {"initRange 300, step 100, step 50, step 50, step 0, step 0, step 100, step 0, finish",
-                2},
+            {"initRange 300, step 50*, step 50, step 0, step 100, finish", 0, -1},
+            {"initRange 300, step 50, step 50*, step 0, step 0, step 100, finish", 1, -1},
+            {"initRange 300, step 50, step 50, step 0*, step 0, step 100, finish", 2, -1},
+            {"initRange 300, step 50, step 50, step 0, step 50*, step 50, step 0, finish", 2, 0},
+            {"initRange 300, step 50, step 50, step 0, step 50, step 50*, step 0, step 0, finish",
+                2, 1},
+            {"initRange 300, step 50, step 50, step 0, step 50, step 50, step 0*, step 0, finish",
+                2, 2},
+            {"initRange 300, step 50, step 50, step 0, step 50, step 50, step 0, step 0*, finish",
+                2, 2},
+            {"initRange 300, step 50, step 50, step 0, step 50, step 50, step 0, step 0, "
+             "step 100*, step 0, finish",
+                2, 2},
+            {"initRange 300, step 50, step 50, step 0, step 50, step 50, step 0, step 0, "
+             "step 100, step 0*, finish",
+                2, 2},
+            {"initRange 300, step 50, step 50, step 0, step 50, step 50, step 0, step 0, "
+             "step 100, step 0, finish",
+                2, 2},
         });
 }
 
@@ -69,23 +78,31 @@ TEST_F(Cancel, WithAttachmentsIsSeenAgainAtTheirHeadAndLeavesOutTheFinish)
     backup.add(plainSet(15, 1));
     expectRows(backup, {0, 14, 15},
         {
-            {"initRange 300, step 50*, step 0, step 50, step 0", -1},
-            {"initRange 300, step 50, step 50*, step 0, step 0, step 0", 0},
-            {"initRange 300, step 50, step 50, step 0*, step 0, step 0", 1},
-            {"initRange 300, step 50, step 50, step 0, step 0*, step 0", 1},
-            {"initRange 300, step 50, step 50, step 0, step 0, step 100*, step 0", 1},
-            {"initRange 300, step 50, step 50, step 0, step 0, step 100, step 100*, step 0", 1},
-            {"initRange 300, step 50, step 50, step 0, step 0, step 100, step 100, step 0*", 1},
+            {"initRange 300, step 50*, step 0, step 0, step 50, step 0", 0, -1},
+            {"initRange 300, step 50, step 0*, step 0, step 50, step 0", 1, -1},
+            {"initRange 300, step 50, step 0, step 50*, step 0, step 0, step 0", 1, 0},
+            {"initRange 300, step 50, step 0, step 50, step 0*, step 0, step 0", 1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0*, step 0", 1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100*, step 0", 1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
+             "step 100*, step 0",
+                1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
+             "step 100, step 0*",
+                1, 1},
             // From here on the run goes to its end.
-            {"initRange 300, step 50, step 50, step 0, step 0, step 100, step 100, step 0, "
-             "initRange 200, setAttachStage true, step 0*, step 0, finish",
-                1},
-            {"initRange 300, step 50, step 50, step 0, step 0, step 100, step 100, step 0, "
-             "initRange 200, setAttachStage true, step 0, step 0*, finish",
-                1},
-            {"initRange 300, step 50, step 50, step 0, step 0, step 100, step 100, step 0, "
-             "initRange 200, setAttachStage true, step 0, step 0, finish",
-                1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
+             "step 100, step 0, initRange 200, setAttachStage true, step 0*, "
+             "step 0, finish",
+                1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
+             "step 100, step 0, initRange 200, setAttachStage true, step 0, "
+             "step 0*, finish",
+                1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
+             "step 100, step 0, initRange 200, setAttachStage true, step 0, "
+             "step 0, finish",
+                1, 1},
         });
 }
 

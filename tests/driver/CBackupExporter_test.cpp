@@ -125,8 +125,8 @@ TEST_F(BackupExporter, OrderAndRepetitionOfTheWantedTypesAndUnknownNumbersHaveNo
         EXPECT_TRUE(
             CBackupExporter().exportBackup(&backup, root(), &progress, row.types, false, "Anna"));
         EXPECT_EQ(progress.calls(),
-            QStringList({"initRange 600", "step 200", "step 50", "step 50", "step 0", "step 0",
-                "step 100", "step 100", "step 100", "step 0", "finish"}));
+            QStringList({"initRange 600", "step 200", "step 50", "step 0", "step 50", "step 0",
+                "step 0", "step 100", "step 100", "step 100", "step 0", "finish"}));
     }
 }
 
@@ -171,8 +171,10 @@ TEST_F(BackupExporter, WithoutProgressItWritesAllTheSame)
     backup.add(plainSet(14, 1));
     EXPECT_TRUE(
         CBackupExporter().exportBackup(&backup, root(), nullptr, {0, 3, 14}, false, "Anna"));
-    EXPECT_EQ(tree(), QStringList({"Call History/", "Call History/Anna's Call History.html",
-                          "Messages/", "Messages/Anna's Messages.csv"}));
+    EXPECT_EQ(tree(),
+        QStringList({"Call History/", "Call History/Anna's Call History.html", "Messages/",
+            "Messages/Anna's Messages.csv", "Messages/Anna's Messages.html", "Messages/image/"}));
+    EXPECT_EQ(pageConversations(), 3);
     EXPECT_EQ(csvRows(), 3);
 }
 
@@ -192,8 +194,8 @@ TEST_F(BackupExporter, ACategoryThatFailsDoesNotStopTheNext)
     backup.add(smsSet(1));
     RecordingProgress progress;
     EXPECT_TRUE(CBackupExporter().exportBackup(&backup, root(), &progress, {0, 2}, false, "Anna"));
-    EXPECT_EQ(progress.calls(), QStringList({"initRange 200", "step 100", "step 50", "step 50",
-                                    "step 0", "step 0", "finish"}));
+    EXPECT_EQ(progress.calls(), QStringList({"initRange 200", "step 100", "step 50", "step 0",
+                                    "step 50", "step 0", "step 0", "finish"}));
     EXPECT_EQ(csvRows(), 1);
 }
 
@@ -231,7 +233,8 @@ TEST_F(BackupExporter, ACategoryFilledAfterTheCountIsWrittenOnAShareOfNothing)
     RecordingProgress progress;
     EXPECT_TRUE(CBackupExporter().exportBackup(&backup, root(), &progress, {0, 3}, false, "Anna"));
     EXPECT_EQ(progress.calls(), QStringList({"initRange 100", "step 0", "step 0", "step 0",
-                                    "step 0", "step 100", "step 0", "finish"}));
+                                    "step 0", "step 0", "step 100", "step 0", "finish"}));
+    EXPECT_EQ(pageConversations(), 1);
     EXPECT_EQ(csvRows(), 1);
 }
 
@@ -270,17 +273,19 @@ TEST_F(BackupExporter, TheShorterFormWantsAllTypes)
     EXPECT_EQ(shorter.value(0), "initRange 63200"); // 1 + ... + 35 and two conversations
     const QStringList written = tree();
     EXPECT_TRUE(written.contains("Messages/Shorter's Messages.csv"));
+    EXPECT_TRUE(written.contains("Messages/Shorter's Messages.html"));
     EXPECT_EQ(
         written.filter("Longer").replaceInStrings("Longer", "Shorter"), written.filter("Shorter"));
 }
 
-TEST_F(BackupExporter, TheCategoryIsNamedByTheModelAndTheFileByOwnerAndCategory)
+TEST_F(BackupExporter, TheCategoryIsNamedByTheModelAndItsFilesByOwnerAndCategory)
 {
     PRBackup backup;
     backup.add(smsSet(1));
     CBackupExporter().exportBackup(&backup, root(), nullptr, {0}, false, "Anna");
     const QString category = PRBackup::dataTypeName(0);
-    EXPECT_EQ(tree(), QStringList({category + "/", category + "/Anna's " + category + ".csv"}));
+    EXPECT_EQ(tree(), QStringList({category + "/", category + "/Anna's " + category + ".csv",
+                          category + "/Anna's " + category + ".html", category + "/image/"}));
 }
 
 TEST_F(BackupExporter, TheRootIsMadeWhereItIsMissing)
@@ -290,7 +295,8 @@ TEST_F(BackupExporter, TheRootIsMadeWhereItIsMissing)
     EXPECT_TRUE(CBackupExporter().exportBackup(
         &backup, QDir(root().filePath("a/b")), nullptr, {0}, false, "Anna"));
     EXPECT_EQ(
-        tree(), QStringList({"a/", "a/b/", "a/b/Messages/", "a/b/Messages/Anna's Messages.csv"}));
+        tree(), QStringList({"a/", "a/b/", "a/b/Messages/", "a/b/Messages/Anna's Messages.csv",
+                    "a/b/Messages/Anna's Messages.html", "a/b/Messages/image/"}));
 }
 
 TEST_F(BackupExporter, AnExporterServesManyRuns)
@@ -305,8 +311,10 @@ TEST_F(BackupExporter, AnExporterServesManyRuns)
         run = progress.calls();
     }
     EXPECT_EQ(calls[0], calls[1]);
-    EXPECT_EQ(tree(), QStringList({"Messages/", "Messages/Anna's Messages (2).csv",
-                          "Messages/Anna's Messages.csv"}));
+    // A page of the same name is replaced.
+    EXPECT_EQ(tree(),
+        QStringList({"Messages/", "Messages/Anna's Messages (2).csv",
+            "Messages/Anna's Messages.csv", "Messages/Anna's Messages.html", "Messages/image/"}));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "model/PRBackup.h"
 #include "model/PRSMSItem.h"
+#include "platform/OvResourceMgr.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -12,9 +13,13 @@
 
 #include <gtest/gtest.h>
 
-/// A directory to export into, and small sets to export.
+/// A directory to export into, and small sets to export. The images of the pages are missing, so
+/// that nobody waits for their copies.
 class DriverTest : public testing::Test {
 protected:
+    DriverTest() { OvResourceMgr::instance()->setProductResourceRoot("/nonexistent"); }
+    ~DriverTest() override { OvResourceMgr::instance()->setProductResourceRoot({}); }
+
     QDir root() const { return {m_directory.path()}; }
 
     /// All files and directories beneath the root, sorted; directories end in "/".
@@ -59,6 +64,20 @@ protected:
             records.push_back(conversation(QString::number(i + 1)));
         }
         return std::make_unique<PRSMSData>(std::move(records));
+    }
+
+    QByteArray contentsOf(const QString& path) const
+    {
+        QFile file(root().filePath(path));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+        return file.readAll();
+    }
+
+    /// Conversations on the message page of the owner "Anna"; -1 where there is no page.
+    int pageConversations() const
+    {
+        const QString page = "Messages/Anna's Messages.html";
+        return root().exists(page) ? contentsOf(page).count(R"(<div class="main">)") : -1;
     }
 
     /// Rows of the message CSV of the owner "Anna" behind the labels; -1 where there is no file.

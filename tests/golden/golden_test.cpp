@@ -8,6 +8,7 @@
 // read by a person before it is committed.
 #include "driver/CBackupExporter.h"
 #include "golden_tree.h"
+#include "platform/OvResourceMgr.h"
 #include "recordset/recordset.h"
 
 #include <QDir>
@@ -78,6 +79,14 @@ Options readOptions(const QString& path)
 class GoldenCase final : public testing::Test {
 public:
     explicit GoldenCase(QString directory) : m_directory(std::move(directory)) {}
+
+    void SetUp() override
+    {
+        // Trees hold what is made of the records, not the product's images.
+        OvResourceMgr::instance()->setProductResourceRoot("/nonexistent");
+    }
+
+    void TearDown() override { OvResourceMgr::instance()->setProductResourceRoot({}); }
 
     void TestBody() override
     {

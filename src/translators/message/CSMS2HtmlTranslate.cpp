@@ -52,7 +52,7 @@ constexpr QLatin1String kTextColours = R"(
 )"_page;
 
 constexpr QLatin1String kConversationOpen = R"(<div class="main">)"_L1;
-constexpr QLatin1String kDate = "<p>%1%2%3%4</p>"_L1;
+constexpr QLatin1String kDate = "<p>%1%2</p>"_L1;
 constexpr QLatin1String kEvent = R"(<p class="event-msg">%1</p>)"_L1;
 constexpr QLatin1String kSender = R"(<p class="cid">%1</p>)"_L1;
 constexpr QLatin1String kPictureRow = R"(
@@ -83,14 +83,6 @@ QString label(const char* source)
 // The lines between the messages: what the last of them showed, and their texts.
 class DateLines {
 public:
-    DateLines()
-    {
-        const QString text = label(QT_TRANSLATE_NOOP("DataExport", "Date: %1"));
-        const int place = text.indexOf("%1"_L1);
-        m_before = text.left(place);
-        m_after = place < 0 ? QString() : text.mid(place + 2);
-    }
-
     void draw(Page& page, const PRSMSChat& message)
     {
         const QDateTime date = message.msgDate();
@@ -99,8 +91,8 @@ public:
         m_lastDate = date;
         m_lastNormal = message.isNormalSMS();
         if (dateChanged || kindChanged) {
-            page.add(kDate, kindChanged ? kindLine(*m_lastNormal) : QString(), escaped(m_before),
-                CCommonUtils::datetimeToMinute(date, true), escaped(m_after));
+            page.add(kDate, kindChanged ? kindLine(*m_lastNormal) : QString(),
+                escaped(m_label.arg(CCommonUtils::datetimeToMinute(date, true))));
         }
     }
 
@@ -111,8 +103,7 @@ private:
     }
 
     const QString m_hyphens = QString(55, QChar(u'-'));
-    QString m_before; // of the date in its label
-    QString m_after;
+    const QString m_label = label(QT_TRANSLATE_NOOP("DataExport", "Date: %1"));
     QDateTime m_lastDate;
     std::optional<bool> m_lastNormal;
 };
