@@ -4,6 +4,8 @@
 //
 //   options.json   {"owner": "Anna", "only": [0, 2]}    both optional
 //
+// The images of the product are stand-ins from resources/: a tree shows which of them were copied.
+//
 // With ACCEPT_GOLDEN=1 in the environment expected/ is rewritten from what the export wrote, to be
 // read by a person before it is committed.
 #include "driver/CBackupExporter.h"
@@ -93,6 +95,7 @@ public:
         auto loaded = recordset::load(m_directory + "/records.json");
         ASSERT_TRUE(loaded.has_value()) << loaded.error().text().toStdString();
         const Options options = readOptions(m_directory + "/options.json");
+        OvResourceMgr::instance()->setProductResourceRoot(DATAEXPORT_TEST_DIR "/resources");
         const QTemporaryDir output;
         CBackupExporter().exportBackup(&loaded->records, QDir(output.path()), nullptr, options.only,
             false, options.owner.value_or(loaded->owner));

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QImage>
 #include <QTextCodec>
 
 namespace golden {
@@ -21,6 +22,15 @@ QByteArray contentsOf(const QString& path)
 bool isEmptyDirectory(const QString& path)
 {
     return QDir(path).entryList(kAll) == QStringList(kKeep) || QDir(path).isEmpty(kAll);
+}
+
+bool isSame(const QString& path, const QByteArray& expected, const QByteArray& actual)
+{
+    if (expected == actual || !path.endsWith(".png")) {
+        return expected == actual;
+    }
+    const QImage picture = QImage::fromData(expected);
+    return !picture.isNull() && picture == QImage::fromData(actual);
 }
 
 QString textOf(const QByteArray& bytes)
@@ -118,7 +128,7 @@ QStringList differences(const Tree& expected, const Tree& actual)
         const auto other = actual.constFind(entry.key());
         if (other == actual.cend()) {
             found.append(entry.key() + ": expected and not written");
-        } else if (*other != *entry) {
+        } else if (!isSame(entry.key(), *entry, *other)) {
             found.append(difference(entry.key(), *entry, *other));
         }
     }

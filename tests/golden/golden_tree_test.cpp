@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "golden_tree.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -72,6 +74,27 @@ TEST(GoldenTree, AByteThatNoTextShowsStillDiffers)
     EXPECT_EQ(differences({{"f", "\xFF"}}, {{"f", "\xFE"}}).size(), 1);
     EXPECT_EQ(
         differences({{"f", QByteArray("a\0b", 3)}}, {{"f", QByteArray("a\0c", 3)}}).size(), 1);
+}
+
+TEST(GoldenTree, PicturesCompareByTheirPixels)
+{
+    const auto png = [](const QImage& image, int quality) {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        EXPECT_TRUE(image.save(&buffer, "PNG", quality));
+        return buffer.data();
+    };
+    QImage image(20, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const QByteArray packed = png(image, 0);
+    const QByteArray loose = png(image, 100);
+    ASSERT_NE(packed, loose);
+    EXPECT_EQ(differences({{"a.png", packed}}, {{"a.png", loose}}), QStringList());
+    EXPECT_EQ(differences({{"a.bin", packed}}, {{"a.bin", loose}}).size(), 1);
+    image.setPixelColor(3, 4, Qt::blue);
+    EXPECT_EQ(differences({{"a.png", packed}}, {{"a.png", png(image, 0)}}).size(), 1);
+    EXPECT_EQ(differences({{"a.png", packed}}, {{"a.png", "no picture"}}).size(), 1);
+    EXPECT_EQ(differences({{"a.png", "none"}}, {{"a.png", "no picture"}}).size(), 1);
 }
 
 TEST(GoldenTree, WhatIsWrittenIsReadAgainAndNothingElse)
