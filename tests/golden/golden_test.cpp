@@ -4,7 +4,8 @@
 //
 //   options.json   {"owner": "Anna", "only": [0, 2]}    both optional
 //
-// The images of the product are stand-ins from resources/: a tree shows which of them were copied.
+// For some images of the product there are stand-ins in resources/, so that a tree shows which of
+// them were copied; the others are missing.
 //
 // With ACCEPT_GOLDEN=1 in the environment expected/ is rewritten from what the export wrote, to be
 // read by a person before it is committed.
@@ -84,8 +85,8 @@ public:
 
     void SetUp() override
     {
-        // Trees hold what is made of the records, not the product's images.
-        OvResourceMgr::instance()->setProductResourceRoot("/nonexistent");
+        // Trees hold what is made of the records, and of the product's images stand-ins at most.
+        OvResourceMgr::instance()->setProductResourceRoot(DATAEXPORT_TEST_DIR "/resources");
     }
 
     void TearDown() override { OvResourceMgr::instance()->setProductResourceRoot({}); }
@@ -95,7 +96,6 @@ public:
         auto loaded = recordset::load(m_directory + "/records.json");
         ASSERT_TRUE(loaded.has_value()) << loaded.error().text().toStdString();
         const Options options = readOptions(m_directory + "/options.json");
-        OvResourceMgr::instance()->setProductResourceRoot(DATAEXPORT_TEST_DIR "/resources");
         const QTemporaryDir output;
         CBackupExporter().exportBackup(&loaded->records, QDir(output.path()), nullptr, options.only,
             false, options.owner.value_or(loaded->owner));
