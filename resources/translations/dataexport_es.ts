@@ -646,13 +646,18 @@
         <translation>Prioridad</translation>
     </message>
     <message>
+        <source>Marks</source>
+        <extracomment>Column of a table of reminders: Flagged, Repeats or both.</extracomment>
+        <translation>Marcas</translation>
+    </message>
+    <message>
         <source>Flagged</source>
-        <extracomment>Column: whether a reminder bears a flag.</extracomment>
+        <extracomment>Mark of a reminder: the owner flagged it.</extracomment>
         <translation>Con indicador</translation>
     </message>
     <message>
         <source>Repeats</source>
-        <extracomment>Column: whether a reminder comes again.</extracomment>
+        <extracomment>Mark of a reminder: it comes again.</extracomment>
         <translation>Se repite</translation>
     </message>
     <message>
@@ -672,7 +677,7 @@
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>In a column of yes or nothing.</extracomment>
+        <extracomment>In the column Completed: a reminder of which nobody knows when.</extracomment>
         <translation>Sí</translation>
     </message>
     <message>

@@ -646,13 +646,18 @@
         <translation>優先順位</translation>
     </message>
     <message>
+        <source>Marks</source>
+        <extracomment>Column of a table of reminders: Flagged, Repeats or both.</extracomment>
+        <translation>マーク</translation>
+    </message>
+    <message>
         <source>Flagged</source>
-        <extracomment>Column: whether a reminder bears a flag.</extracomment>
+        <extracomment>Mark of a reminder: the owner flagged it.</extracomment>
         <translation>フラグ付き</translation>
     </message>
     <message>
         <source>Repeats</source>
-        <extracomment>Column: whether a reminder comes again.</extracomment>
+        <extracomment>Mark of a reminder: it comes again.</extracomment>
         <translation>繰り返し</translation>
     </message>
     <message>
@@ -672,7 +677,7 @@
     </message>
     <message>
         <source>Yes</source>
-        <extracomment>In a column of yes or nothing.</extracomment>
+        <extracomment>In the column Completed: a reminder of which nobody knows when.</extracomment>
         <translation>はい</translation>
     </message>
     <message>

@@ -12,6 +12,8 @@ namespace {
 
 enum EntityNumber { BaseList = 2, List = 3, Reminder = 11, Object = 14, Account = 15, Rule = 30 };
 
+constexpr qint64 kHour = 3600;
+
 // An invalid value, which is NULL, where the source says nothing. A day stands as its midnight.
 QVariant moment(const QJsonValue& text)
 {
@@ -61,7 +63,7 @@ void Reminders::writeReminder(const QJsonObject& source, const Place& place)
 {
     const QString due = source["due"].toString();
     const QVariant completed = moment(source["completed"]);
-    const qint64 made = secondsSince2001("2024-02-01 08:00:00") + ++m_reminders * 3600;
+    const qint64 made = secondsSince2001("2024-02-01 08:00:00") + ++m_reminders * kHour;
     const QVariant parent = place.parent == 0 ? QVariant() : QVariant(place.parent);
     const auto number = [&](const char* key) { return source[QLatin1String(key)].toInt(); };
     const auto flag = [&](const char* key) { return source[QLatin1String(key)].toBool() ? 1 : 0; };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-//   Title           | List         | Notes | Due date         | Completed | Priority | Flagged |
-//   Repeats Milk            | Shop (Cloud) |       | 2024-05-01 12:30 |           | High     | Yes
-//   | Milk › Oat milk | Shop (Cloud) |       | 2024-05-01       | Yes       |          |         |
+//   Title           | List         | Notes | Due date         | Completed | Priority | Marks
+//   Milk            | Shop (Cloud) |       | 2024-05-01 12:30 |           | High     | Flagged
+//   Milk › Oat milk | Shop (Cloud) |       | 2024-05-01       | Yes       |          | Repeats
 // Column 3 is the one that the page of this data type never breaks: a date.
 #include "backup/readers/ReminderData.h"
 
@@ -38,15 +38,25 @@ QString priorityText(qint64 priority)
     return priority < kMediumPriority ? tr("High") : tr("Low");
 }
 
-QString yesOrNothing(bool yes)
-{
-    return yes ? tr("Yes") : QString();
-}
-
 QString completedText(const Reminder& reminder)
 {
-    const bool dated = reminder.completed && !reminder.completedAt.isEmpty();
-    return dated ? reminder.completedAt : yesOrNothing(reminder.completed);
+    if (!reminder.completed) {
+        return {};
+    }
+    return reminder.completedAt.isEmpty() ? tr("Yes") : reminder.completedAt;
+}
+
+// In one column, or the date would have to break on a screen of usual width.
+QString marksText(const Reminder& reminder)
+{
+    QStringList marks;
+    if (reminder.flagged) {
+        marks.append(tr("Flagged"));
+    }
+    if (reminder.repeats) {
+        marks.append(tr("Repeats"));
+    }
+    return marks.join(", "_L1);
 }
 
 QString listText(const Reminder& reminder, bool withAccount)
@@ -105,8 +115,7 @@ std::unique_ptr<PRAbstractItem> record(const Placed& one, bool withAccount)
     const Reminder& reminder = one.reminder;
     return std::make_unique<PRAbstractItem>(
         Record{.values = {one.title, listText(reminder, withAccount), reminder.notes, reminder.due,
-                   completedText(reminder), priorityText(reminder.priority),
-                   yesOrNothing(reminder.flagged), yesOrNothing(reminder.repeats)},
+                   completedText(reminder), priorityText(reminder.priority), marksText(reminder)},
             .flags = reminder.deleted ? Deleted : 0});
 }
 
@@ -115,7 +124,7 @@ std::unique_ptr<PRAbstractItem> record(const Placed& one, bool withAccount)
 ReminderData::ReminderData(Notices& notices)
     : LazyData(kDataType,
         {tr("Title"), tr("List"), tr("Notes"), tr("Due date"), tr("Completed"), tr("Priority"),
-            tr("Flagged"), tr("Repeats")},
+            tr("Marks")},
         notices)
 {
 }

@@ -80,7 +80,7 @@ QString matching(const QStringList& names, const QString& pattern)
 Participants readParticipants(const TableReader& store)
 {
     const formats::Database& database = store.database();
-    const QString join = matching(database.tables(), "^Z_\\d+REMOTEPARTICIPANTHANDLES$"_L1);
+    const QString join = matching(database.tables(), R"(^Z_\d+REMOTEPARTICIPANTHANDLES$)"_L1);
     Participants participants;
     if (join.isEmpty() || !database.hasTable("ZHANDLE"_L1)) {
         return participants; // a release that does not know them
@@ -93,8 +93,8 @@ Participants readParticipants(const TableReader& store)
     });
     const QStringList columns = database.columns(join);
     const std::array joinColumns{
-        WantedColumn{matching(columns, "^Z_\\d+REMOTEPARTICIPANTCALLS$"_L1)},
-        WantedColumn{matching(columns, "^Z_\\d+REMOTEPARTICIPANTHANDLES$"_L1)}};
+        WantedColumn{matching(columns, R"(^Z_\d+REMOTEPARTICIPANTCALLS$)"_L1)},
+        WantedColumn{matching(columns, R"(^Z_\d+REMOTEPARTICIPANTHANDLES$)"_L1)}};
     store.read(join, joinColumns, [&](const formats::Statement& row) {
         const QString address = handles.value(row.integer(1));
         QStringList& all = participants[row.integer(0)];

@@ -22,6 +22,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace backup {
@@ -272,15 +273,16 @@ formats::Result<OpenedBackup> openDatabaseFile(const QString& path)
                         .arg(database->database.tables().join(", "_L1))};
     }
     opened.files = std::make_unique<LooseFiles>(QFileInfo(path).absoluteDir());
-    for (const SourceRow* row : rows) {
-        // Each kind of records has the database for itself.
-        auto own = row == rows.front() ? std::move(database)
-                                       : openWithLog(path, foundLog, *opened.notices);
+    // Each kind of records has the database for itself.
+    for (const SourceRow* row : std::span(rows).subspan(1)) {
+        auto own = openWithLog(path, foundLog, *opened.notices);
         if (!own) {
             return own.error();
         }
         row->add({.database = std::move(*own), .name = path, .names = SenderNames()}, opened);
     }
+    rows.front()->add(
+        {.database = std::move(*database), .name = path, .names = SenderNames()}, opened);
     return opened;
 }
 

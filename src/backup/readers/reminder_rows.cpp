@@ -72,7 +72,7 @@ QHash<QString, qint64> readEntities(const TableReader& store)
 QString columnsOfRule(const formats::Database& database)
 {
     return database.columns("ZREMCDOBJECT"_L1)
-        .filter(QRegularExpression("^ZREMINDER\\d*$"_L1))
+        .filter(QRegularExpression(R"(^ZREMINDER\d*$)"_L1))
         .join(QChar(u'|'));
 }
 

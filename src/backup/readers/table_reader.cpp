@@ -22,7 +22,19 @@ QString tr(const char* text)
 // Names come from tables that the database defines, and are foreign text.
 QString quoted(QString name)
 {
-    return QChar(u'"') + name.replace(QChar(u'"'), "\"\""_L1) + QChar(u'"');
+    return QChar(u'"') + name.replace(QChar(u'"'), R"("")"_L1) + QChar(u'"');
+}
+
+// Those of the names that the table has, a comma behind each.
+QString availableOf(const QStringList& names, const QStringList& available)
+{
+    QString found;
+    for (const QString& name : names) {
+        if (available.contains(name)) {
+            found += quoted(name) + QChar(u',');
+        }
+    }
+    return found;
 }
 
 } // namespace
@@ -32,19 +44,13 @@ QString TableReader::selection(const QString& table, std::span<const WantedColum
     const QStringList available = m_database.columns(table);
     QStringList selected;
     for (const WantedColumn& column : columns) {
-        QStringList found;
         const QStringList names = column.name.split(QChar(u'|'));
-        for (const QString& name : names) {
-            if (available.contains(name)) {
-                found.append(quoted(name));
-            }
-        }
+        const QString found = availableOf(names, available);
         if (found.isEmpty() && column.needed) {
             m_notices.add(
                 tr("%1 has no column %2; it is read as empty.").arg(m_name, names.first()));
         }
-        found.append(QStringLiteral("NULL"));
-        selected.append("coalesce("_L1 + found.join(QChar(u',')) + ",NULL)"_L1);
+        selected.append("coalesce("_L1 + found + "NULL,NULL)"_L1);
     }
     return selected.join(QChar(u','));
 }

@@ -45,9 +45,9 @@ TEST_F(ReminderDataTest, ReminderHasItsColumns)
                            "5, 'Milk', 1, 1, '2 litres', 700000000, 1, 1"),
         "INSERT INTO ZREMCDOBJECT (Z_ENT, ZREMINDER4) VALUES (8, 5)"}));
     EXPECT_EQ(lines(kReminders),
-        QStringList("Milk | Home | 2 litres | 2023-03-08 22:26 |  | High | Yes | Yes"));
+        QStringList("Milk | Home | 2 litres | 2023-03-08 22:26 |  | High | Flagged, Repeats"));
     const PRData* set = m_opened->records.getPRData(kReminders);
-    EXPECT_EQ(set->dataColumn(), 8);
+    EXPECT_EQ(set->dataColumn(), 7);
     EXPECT_EQ(set->columnName(3), "Due date"); // the column that a page never breaks
     EXPECT_EQ(notices(""), QStringList());
 }
@@ -106,9 +106,8 @@ TEST_F(ReminderDataTest, WhatIsMarkedForDeletionOrLiesInSuchAListIsDeleted)
     openFile(newStore({reminder(", ZMARKEDFORDELETION", "1, 'a', 1, 1, 1"),
         reminder(", ZMARKEDFORDELETION", "2, 'b', 3, 1, 0"),
         reminder(", ZMARKEDFORDELETION", "3, 'c', 2, 1, NULL")}));
-    EXPECT_EQ(
-        lines(kReminders), QStringList({"x a | Home |  |  |  |  |  | ",
-                               "c | Work |  |  |  |  |  | ", "x b | Gone |  |  |  |  |  | "}));
+    EXPECT_EQ(lines(kReminders), QStringList({"x a | Home |  |  |  |  | ",
+                                     "c | Work |  |  |  |  | ", "x b | Gone |  |  |  |  | "}));
 }
 
 TEST_F(ReminderDataTest, RuleThatWasDeletedRepeatsNothing)
@@ -116,7 +115,7 @@ TEST_F(ReminderDataTest, RuleThatWasDeletedRepeatsNothing)
     openFile(newStore({reminder("", "1, 'a', 1, 1"), reminder("", "2, 'b', 1, 1"),
         "INSERT INTO ZREMCDOBJECT (Z_ENT, ZREMINDER3, ZMARKEDFORDELETION) VALUES (8, 1, 1),"
         " (9, 2, 0)"}));
-    EXPECT_EQ(column(kReminders, 7), QStringList({"", ""}));
+    EXPECT_EQ(column(kReminders, 6), QStringList({"", ""}));
 }
 
 TEST_F(ReminderDataTest, AddressFollowsTheNotes)
@@ -168,7 +167,7 @@ TEST_F(ReminderDataTest, WideTableOfIos13To15IsRead)
         "INSERT INTO ZREMCDOBJECT (Z_PK, Z_ENT, ZREMINDER3) VALUES (4, 22, 3)",
         "INSERT INTO ZREMCDOBJECT (Z_PK, Z_ENT, ZTITLE) VALUES (5, 6, 'a place')"});
     EXPECT_EQ(lines(kReminders),
-        QStringList("Post | Errands | stamps | 2023-03-08 22:26 |  | Low |  | Yes"));
+        QStringList("Post | Errands | stamps | 2023-03-08 22:26 |  | Low | Repeats"));
     EXPECT_EQ(notices(""), QStringList());
 }
 
@@ -198,9 +197,9 @@ TEST_F(ReminderDataTest, TasksOfAnOldCalendarAreReminders)
                 "INSERT INTO Recurrence VALUES (1, 4), (2, 1)"});
     openFolder();
     EXPECT_EQ(lines(kReminders),
-        QStringList({"Call Ben | Reminders | bike | 2023-03-08 22:26 |  | Medium |  | ",
-            "Tea | Reminders |  | 2023-03-08 20:26 |  |  |  | ",
-            "Water | Garden |  | 2023-03-09 | 2023-03-08 22:26 |  |  | Yes"}));
+        QStringList({"Call Ben | Reminders | bike | 2023-03-08 22:26 |  | Medium | ",
+            "Tea | Reminders |  | 2023-03-08 20:26 |  |  | ",
+            "Water | Garden |  | 2023-03-09 | 2023-03-08 22:26 |  | Repeats"}));
 }
 
 TEST_F(ReminderDataTest, CalendarAsALooseFileGivesItsReminders)
@@ -213,7 +212,7 @@ TEST_F(ReminderDataTest, CalendarAsALooseFileGivesItsReminders)
 TEST_F(ReminderDataTest, TableThatIsMissingIsToldAndTheRestIsThere)
 {
     openFile(newStore({reminder("", "1, 'a', 1, 1"), "DROP TABLE ZREMCDBASELIST"}));
-    EXPECT_EQ(lines(kReminders), QStringList("a |  |  |  |  |  |  | "));
+    EXPECT_EQ(lines(kReminders), QStringList("a |  |  |  |  |  | "));
     EXPECT_EQ(notices("ZREMCDBASELIST").size(), 1);
 }
 
@@ -221,7 +220,7 @@ TEST_F(ReminderDataTest, StoreWithoutEntitiesOrTitlesIsTold)
 {
     openFile({"CREATE TABLE ZREMCDREMINDER (Z_PK INTEGER PRIMARY KEY, ZNOTES VARCHAR)",
         "INSERT INTO ZREMCDREMINDER VALUES (1, 'n')"});
-    EXPECT_EQ(lines(kReminders), QStringList(" |  | n |  |  |  |  | "));
+    EXPECT_EQ(lines(kReminders), QStringList(" |  | n |  |  |  | "));
     EXPECT_EQ(notices("ZTITLE").size(), 1);
     EXPECT_EQ(notices("Z_PRIMARYKEY").size(), 1);
 }

@@ -49,7 +49,7 @@ TEST_F(RealTables, RemindersOfHandMadeStoresAreRead)
     }
     EXPECT_EQ(column(30, 0), QStringList({"Buy milk", "Buy milk › Buy oat milk", "Corrupt date",
                                  "Submit report", "Call plumber"}));
-    EXPECT_EQ(column(30, 7), QStringList({"Yes", "", "", "", ""}));
+    EXPECT_EQ(column(30, 6), QStringList({"Flagged, Repeats", "", "", "", ""}));
     EXPECT_EQ(lines(30).filter(QRegularExpression("^x ")).size(), 1);
 }
 
