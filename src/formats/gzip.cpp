@@ -28,8 +28,7 @@ Result<QByteArray> inflated(std::span<const unsigned char> bytes, int limit)
 {
     z_stream stream{};
     // zlib is older than const; it only reads.
-    stream.next_in =
-        const_cast<Bytef*>(bytes.data()); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    stream.next_in = const_cast<Bytef*>(bytes.data());
     stream.avail_in = static_cast<uInt>(bytes.size());
     if (inflateInit2(&stream, kEitherHeader) != Z_OK) {
         return damaged();

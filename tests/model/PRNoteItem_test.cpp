@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -34,4 +35,30 @@ TEST(PRNoteItem, KeepsItsPiecesInOrder)
 TEST(PRNoteItem, HasNoPiecesByDefault)
 {
     EXPECT_TRUE(PRNoteItem().notePieces().isEmpty());
+}
+
+TEST(PRNoteItem, ContentsAreCopiesOfItsPieces)
+{
+    const PRNoteItem item({}, {{.kind = 0, .content = "text"}});
+    EXPECT_EQ(item.contents().at(0).content, "text");
+    EXPECT_EQ(item.contents().size(), 1U);
+}
+
+TEST(PRNoteItem, MayLoadItsPiecesWhenTheyAreAskedFor)
+{
+    class LazyNote final : public PRNoteItem {
+    public:
+        const QList<NotePiece*>& notePieces() const override
+        {
+            m_loaded = std::make_unique<PRNoteItem>(
+                Record{}, std::vector<NotePiece>{{.content = "loaded"}});
+            return m_loaded->notePieces();
+        }
+
+    private:
+        mutable std::unique_ptr<PRNoteItem> m_loaded;
+    };
+    const LazyNote lazy;
+    const PRNoteItem& item = lazy;
+    EXPECT_EQ(item.notePieces().at(0)->content, "loaded");
 }

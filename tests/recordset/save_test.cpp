@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "loading.h"
 #include "model/PRFileItem.h"
+#include "model/PRNoteItem.h"
 #include "model/PRSMSItem.h"
 #include "model/PRWhatsappItem.h"
 #include "recordset/recordset.h"
@@ -71,6 +72,17 @@ private:
 class LazyFile final : public PRFileItem {
 public:
     QString filePath() const override { return "/late.png"; }
+    QString thumbFilePath() const override { return "/thumb.png"; }
+};
+
+class LazyNote final : public PRNoteItem {
+public:
+    LazyNote() : PRNoteItem({.values = {"Note", ""}}) {}
+    QString value(int column) const override { return column == 1 ? "late" : "Note"; }
+    std::vector<NotePiece> contents() const override
+    {
+        return {{.kind = 1, .content = "/p.heic", .previewPath = "/p.png"}};
+    }
 };
 
 } // namespace
@@ -184,7 +196,20 @@ TEST(Save, AsksRecordsForWhatTheyLoadLate)
     backup.add(std::make_unique<PRSMSData>(recordsOf(make<LazyConversation>(), make<LazyFile>())));
     const QByteArray text = saved(tree, backup);
     EXPECT_TRUE(text.contains(R"({"content": "late"})")) << text.toStdString();
-    EXPECT_TRUE(text.contains(R"({"kind": "file", "path": "/late.png"})")) << text.toStdString();
+    EXPECT_TRUE(
+        text.contains(R"({"kind": "file", "path": "/late.png", "thumbFile": "/thumb.png"})"))
+        << text.toStdString();
+}
+
+TEST(Save, AsksNotesThatAreLoadedLate)
+{
+    const TempTree tree;
+    PRBackup backup;
+    backup.add(std::make_unique<PRData>(27, recordsOf(make<LazyNote>())));
+    const QByteArray text = saved(tree, backup);
+    EXPECT_TRUE(text.contains(R"({"values": ["Note", "late"], "pieces": [)")) << text.toStdString();
+    EXPECT_TRUE(text.contains(R"({"kind": 1, "content": "/p.heic", "preview": "/p.png"})"))
+        << text.toStdString();
 }
 
 TEST(Save, TellsTheNumberOfRecordsAfterEach)

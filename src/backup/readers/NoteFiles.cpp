@@ -54,7 +54,7 @@ FoundFile NoteFiles::media(const NoteAttachment& attachment, const QString& acco
     }
     const QString directory = "Media/"_L1 + attachment.mediaId;
     if (isPart(attachment.fileName)) {
-        const FoundFile found = first(
+        FoundFile found = first(
             account, withGeneration(directory, attachment.mediaGeneration, {attachment.fileName}));
         if (found) {
             return found;
@@ -75,10 +75,10 @@ FoundFile NoteFiles::preview(const NoteAttachment& attachment, const QString& ac
                 "Preview.jpeg"_L1});
         candidates += {base + "-oriented.png"_L1, base + "-oriented.jpg"_L1, base + ".png"_L1,
             base + ".jpg"_L1};
-        if (const FoundFile found = first(account, candidates)) {
+        if (FoundFile found = first(account, candidates)) {
             return found;
         }
-        if (const FoundFile found = anyBelow(account, base)) {
+        if (FoundFile found = anyBelow(account, base)) {
             return found;
         }
     }
@@ -123,32 +123,34 @@ QStringList NoteFiles::roots(const QString& account) const
 
 FoundFile NoteFiles::first(const QString& account, const QStringList& candidates) const
 {
+    QStringList paths;
     const QStringList places = roots(account);
     for (const QString& root : places) {
         for (const QString& candidate : candidates) {
-            QString path = m_files.locate(kNotesDomain, root + candidate);
-            if (!path.isEmpty()) {
-                return {.path = std::move(path), .name = lastPart(candidate)};
-            }
+            paths.append(root + candidate);
         }
     }
-    return {};
+    return located(paths);
 }
 
 // Whatever lies there: names and generations differ between releases.
 FoundFile NoteFiles::anyBelow(const QString& account, const QString& directory) const
 {
+    QStringList paths;
     const QStringList places = roots(account);
     for (const QString& root : places) {
-        const QStringList paths = m_files.filesBelow(kNotesDomain, root + directory);
-        for (const QString& path : paths) {
-            if (path.endsWith(".encrypted"_L1)) {
-                continue;
-            }
-            QString found = m_files.locate(kNotesDomain, path);
-            if (!found.isEmpty()) {
-                return {.path = std::move(found), .name = lastPart(path)};
-            }
+        paths += m_files.filesBelow(kNotesDomain, root + directory);
+    }
+    return located(paths);
+}
+
+FoundFile NoteFiles::located(const QStringList& paths) const
+{
+    for (const QString& path : paths) {
+        QString found =
+            path.endsWith(".encrypted"_L1) ? QString() : m_files.locate(kNotesDomain, path);
+        if (!found.isEmpty()) {
+            return {.path = std::move(found), .name = lastPart(path)};
         }
     }
     return {};

@@ -40,6 +40,7 @@ private:
     QStringList roots(const QString& account) const;
     FoundFile first(const QString& account, const QStringList& candidates) const;
     FoundFile anyBelow(const QString& account, const QString& directory) const;
+    FoundFile located(const QStringList& paths) const;
 
     const FileLocator& m_files;
     QStringList m_accounts;

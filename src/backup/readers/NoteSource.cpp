@@ -29,6 +29,16 @@ QImage preview(const QString& path)
     return reader.read();
 }
 
+std::vector<PRNoteItem::NotePiece> withPreviews(std::vector<PRNoteItem::NotePiece> pieces)
+{
+    for (PRNoteItem::NotePiece& piece : pieces) {
+        if (!piece.previewPath.isEmpty()) {
+            piece.preview = preview(piece.previewPath);
+        }
+    }
+    return pieces;
+}
+
 } // namespace
 
 const NoteContent& NoteSource::content(std::size_t index)
@@ -43,14 +53,9 @@ const NoteContent& NoteSource::content(std::size_t index)
 
 const PRNoteItem& NoteSource::shown(std::size_t index)
 {
-    std::vector<PRNoteItem::NotePiece> pieces = content(index).pieces;
+    const NoteContent& note = content(index);
     if (!m_shown) {
-        for (PRNoteItem::NotePiece& piece : pieces) {
-            if (!piece.previewPath.isEmpty()) {
-                piece.preview = preview(piece.previewPath);
-            }
-        }
-        m_shown = std::make_unique<PRNoteItem>(Record{}, std::move(pieces));
+        m_shown = std::make_unique<PRNoteItem>(Record{}, withPreviews(note.pieces));
     }
     return *m_shown;
 }
