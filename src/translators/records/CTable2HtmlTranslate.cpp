@@ -65,7 +65,7 @@ constexpr QLatin1String kDeletedLockIcon = "crypteddeleted.png"_L1;
 constexpr int kWidthOfAllColumns = 90; // percent
 enum TableType { Notes = 27, Reminders = 30 };
 constexpr int kNoteColumn = 4;
-constexpr int kUnbrokenReminderColumn = 3; // its lines do not wrap
+constexpr int kUnbrokenReminderColumn = 3; // not broken at its blanks
 
 // A record in its row of the page.
 struct Row {
