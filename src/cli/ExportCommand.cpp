@@ -7,6 +7,7 @@
 #include "cli/Source.h"
 #include "cli/Table.h"
 #include "cli/exit_status.h"
+#include "cli/image_folder.h"
 #include "cli/interrupt.h"
 #include "cli/log_lines.h"
 #include "cli/owner_name.h"
@@ -22,6 +23,8 @@
 #include <CLI/CLI.hpp>
 
 namespace {
+
+constexpr int kNotes = 27; // data type
 
 QString counted(int count, QLatin1String noun)
 {
@@ -172,6 +175,9 @@ int ExportCommand::exportSource(const Request& request, Source& source)
         exporter.exportBackup(&source.records(), QDir(request.target), &progress, plan.written,
             m_heicToJpg, ownerOf(source));
         wasCancelled = progress.wasCancelled();
+    }
+    if (plan.written.contains(kNotes)) {
+        addOtherSpelling(categoryFolder(request.target, kNotes));
     }
     return wasCancelled ? tellCancelled(request, plan)
                         : tellResult(request, plan, source.records(), clock() - began);
