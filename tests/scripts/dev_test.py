@@ -30,6 +30,7 @@ STAND_INS = {
         echo "apt-get $*" >>"$LOG"
         [ "$1" = install ] && [ -n "$APT_SAYS" ] && { echo "Reading lists"; echo "$APT_SAYS"; echo "E: more"; exit 100; } >&2
         exit 0""",
+    "ctest": 'echo "ctest $*" >>"$LOG"',
     "cmake": """
         [ "$1" = --build ] || exit 0
         mkdir -p build/release/bin
@@ -114,6 +115,21 @@ class Dev(unittest.TestCase):
         self.assertEqual(len(run.stderr.splitlines()), 1)
         self.assertTrue(run.stderr.startswith(
             "setup: cannot install cmake: Unable to locate package cmake (all output is in "))
+
+    def test_an_export_asks_for_nothing_that_only_tests_need(self):
+        self.assertEqual(self.dev("export", MISSING="chromium").returncode, 0)
+        self.assertEqual(self.calls(), [])
+
+    def test_tests_run_where_a_browser_cannot_be_installed(self):
+        run = self.dev("test", MISSING="chromium", APT_SAYS="E: Unable to locate package chromium")
+        self.assertEqual(run.returncode, 0, run.stderr)
+        self.assertIn("tests that need chromium are skipped", run.stdout)
+        self.assertTrue(self.calls()[-1].startswith("ctest "))
+
+    def test_tests_do_not_run_where_a_compiler_cannot_be_installed(self):
+        run = self.dev("test", MISSING="clang", APT_SAYS="E: Unable to locate package clang")
+        self.assertEqual(run.returncode, 1)
+        self.assertFalse(any(call.startswith("ctest") for call in self.calls()))
 
     def test_export_writes_the_sample_into_a_new_out(self):
         run = self.dev("export")
