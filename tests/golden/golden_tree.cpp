@@ -7,6 +7,8 @@
 #include <QImage>
 #include <QTextCodec>
 
+#include <optional>
+
 namespace golden {
 namespace {
 
@@ -24,17 +26,12 @@ bool isEmptyDirectory(const QString& path)
     return QDir(path).entryList(kAll) == QStringList(kKeep) || QDir(path).isEmpty(kAll);
 }
 
-bool isSame(const QString& path, const QByteArray& expected, const QByteArray& actual)
+// Pages have no line breaks of their own: one tag a line.
+QString textOf(const QString& path, const QByteArray& bytes)
 {
-    if (expected == actual || !path.endsWith(".png")) {
-        return expected == actual;
+    if (path.endsWith(".html")) {
+        return QString::fromUtf8(bytes.constData(), bytes.size()).replace('<', "\n<").mid(1);
     }
-    const QImage picture = QImage::fromData(expected);
-    return !picture.isNull() && picture == QImage::fromData(actual);
-}
-
-QString textOf(const QByteArray& bytes)
-{
     const bool isUtf16 = bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF");
     return isUtf16 ? QTextCodec::codecForName("UTF-16")->toUnicode(bytes)
                    : QString::fromUtf8(bytes.constData(), bytes.size());
@@ -61,10 +58,40 @@ int firstDifferenceOf(const QByteArray& expected, const QByteArray& actual)
     return at;
 }
 
+// None for other files, empty ones and broken ones. All in one format: how a picture is packed is
+// up to a library.
+std::optional<QImage> pictureOf(const QString& path, const QByteArray& bytes)
+{
+    const QImage picture = path.endsWith(".png") ? QImage::fromData(bytes) : QImage();
+    return picture.isNull() ? std::nullopt
+                            : std::optional(picture.convertToFormat(QImage::Format_ARGB32));
+}
+
+bool isSame(const QString& path, const QByteArray& expected, const QByteArray& actual)
+{
+    const std::optional<QImage> picture = pictureOf(path, expected);
+    return expected == actual || (picture.has_value() && picture == pictureOf(path, actual));
+}
+
+QString pictureDifference(const QString& path, const QImage& expected, const QImage& actual)
+{
+    if (expected.size() != actual.size()) {
+        return QStringLiteral("%1: a picture of %2 x %3 is expected, one of %4 x %5 written")
+            .arg(path, QString::number(expected.width()), QString::number(expected.height()),
+                QString::number(actual.width()), QString::number(actual.height()));
+    }
+    return path + ": shows another picture of the same size";
+}
+
 QString difference(const QString& path, const QByteArray& expected, const QByteArray& actual)
 {
-    const QStringList expectedLines = textOf(expected).split('\n');
-    const QStringList actualLines = textOf(actual).split('\n');
+    const std::optional<QImage> expectedPicture = pictureOf(path, expected);
+    const std::optional<QImage> picture = pictureOf(path, actual);
+    if (expectedPicture.has_value() && picture.has_value()) {
+        return pictureDifference(path, *expectedPicture, *picture);
+    }
+    const QStringList expectedLines = textOf(path, expected).split('\n');
+    const QStringList actualLines = textOf(path, actual).split('\n');
     int line = 0;
     while (line < expectedLines.size() && line < actualLines.size()
            && expectedLines.at(line) == actualLines.at(line)) {

@@ -20,8 +20,8 @@ Tree readTree(const QString& directory);
 bool writeTree(const QString& directory, const Tree& tree);
 
 /// One text for each path that is missing, is not expected or has other contents, with the first
-/// line that differs. Files named ".png" that are pictures compare by pixels: how they are packed
-/// is up to a library. Empty: the trees are the same.
+/// line that differs; a page counts as one tag a line. Files named ".png" that are pictures compare
+/// by pixels. Empty: the trees are the same.
 QStringList differences(const Tree& expected, const Tree& actual);
 
 } // namespace golden

@@ -14,6 +14,17 @@ namespace {
 using golden::differences;
 using golden::Tree;
 
+QByteArray pngOf(QSize size, QRgb colour)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(colour);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(image.save(&buffer, "PNG"));
+    return bytes;
+}
+
 TEST(GoldenTree, TreesOfTheSameFilesDoNotDiffer)
 {
     const Tree tree{{"a", "1"}, {"b/c", ""}, {"d/", ""}};
@@ -60,6 +71,44 @@ TEST(GoldenTree, TheFirstDifferingLineIsShown)
         EXPECT_EQ(differences({{"f", row.expected}}, {{"f", row.actual}}).join('|').toStdString(),
             row.difference);
     }
+}
+
+TEST(GoldenTree, APageCountsAsOneTagALine)
+{
+    EXPECT_EQ(differences({{"f.html", "<p>a</p><p>b</p>"}}, {{"f.html", "<p>a</p><p>c</p>"}})
+                  .join('|')
+                  .toStdString(),
+        "f.html: differs at byte 11 (16 bytes expected, 16 written), line 3\n"
+        "  expected: <p>b\n  written:  <p>c");
+}
+
+TEST(GoldenTree, APictureThatDiffersIsToldAsAPicture)
+{
+    const QByteArray red = pngOf({90, 60}, qRgb(200, 0, 0));
+    struct {
+        const char* what;
+        QByteArray actual;
+        const char* difference;
+    } const rows[] = {
+        {"colour", pngOf({90, 60}, qRgb(201, 0, 0)),
+            "a.png: shows another picture of the same size"},
+        {"opacity", pngOf({90, 60}, qRgba(200, 0, 0, 254)),
+            "a.png: shows another picture of the same size"},
+        {"size", pngOf({60, 90}, qRgb(200, 0, 0)),
+            "a.png: a picture of 90 x 60 is expected, one of 60 x 90 written"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        EXPECT_EQ(differences({{"a.png", red}}, {{"a.png", row.actual}}).join('|').toStdString(),
+            row.difference);
+    }
+}
+
+TEST(GoldenTree, APictureIsNoEmptyFile)
+{
+    const QByteArray red = pngOf({90, 60}, qRgb(200, 0, 0));
+    EXPECT_EQ(differences({{"a.png", red}}, {{"a.png", ""}}).size(), 1);
+    EXPECT_EQ(differences({{"a.png", ""}}, {{"a.png", red}}).size(), 1);
 }
 
 TEST(GoldenTree, APlaceMarkInAPathOrALineStaysText)
