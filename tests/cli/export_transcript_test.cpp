@@ -55,7 +55,7 @@ TEST_F(ExportTranscript, TellsWhatIsWrittenAndWhatIsNot)
     EXPECT_EQ(withoutPercentages(exported.errors), expected);
     EXPECT_EQ(exported.status, AllDone);
     EXPECT_TRUE(tree.exists("out/Messages/Anna's Messages.csv"));
-    EXPECT_EQ(tree.read("out/Messages/Anna's Messages.html").count("<div class=\"main\">"), 3);
+    EXPECT_EQ(tree.read("out/Messages/Anna's Messages.html").count(R"(<div class="main">)"), 3);
 }
 
 TEST_F(ExportTranscript, SaysNothingWhenQuiet)

@@ -16,10 +16,11 @@
 /// A directory to export into, and small sets to export. The images of the pages are missing, so
 /// that nobody waits for their copies.
 class DriverTest : public testing::Test {
-protected:
+public:
     DriverTest() { OvResourceMgr::instance()->setProductResourceRoot("/nonexistent"); }
     ~DriverTest() override { OvResourceMgr::instance()->setProductResourceRoot({}); }
 
+protected:
     QDir root() const { return {m_directory.path()}; }
 
     /// All files and directories beneath the root, sorted; directories end in "/".

@@ -40,7 +40,7 @@ TEST(ExportTitle, PutsOwnerAndCategoryIntoTheTranslatedText)
 TEST(ExportTitle, FillsBothPlacesAtOnceAndKeepsWhatFileNamesMayNotHold)
 {
     EXPECT_EQ(exportTitle("%2", "%1"), "%2's %1");
-    EXPECT_EQ(exportTitle("A/B: \"C\"", "Cat"), "A/B: \"C\"'s Cat");
+    EXPECT_EQ(exportTitle(R"(A/B: "C")", "Cat"), R"(A/B: "C"'s Cat)");
 }
 
 TEST(StageShare, DividesWholeUnits)
@@ -107,9 +107,9 @@ TEST_F(ExportSms, ThePageHasItsStyleSheetInTheHeadAndEndsBehindTheConversations)
     EXPECT_TRUE(run(set.get(), nullptr));
     const QByteArray page = contentsOf(kPage);
     EXPECT_TRUE(page.startsWith("<!DOCTYPE html PUBLIC "));
-    EXPECT_TRUE(page.contains("<title>Anna's Cat</title><style type=\"text/css\">"));
-    EXPECT_TRUE(page.contains("</style></head><body><div id=\"wrap\">"));
-    EXPECT_EQ(page.count("<div class=\"main\">"), 2);
+    EXPECT_TRUE(page.contains(R"(<title>Anna's Cat</title><style type="text/css">)"));
+    EXPECT_TRUE(page.contains(R"(</style></head><body><div id="wrap">)"));
+    EXPECT_EQ(page.count(R"(<div class="main">)"), 2);
     EXPECT_TRUE(page.endsWith("</div></div></body></html>"));
 }
 
@@ -216,7 +216,7 @@ TEST_F(ExportSms, ACancelAmongTheConversationsKeepsAClosedPageAndMakesNoCsv)
         EXPECT_TRUE(result);
         EXPECT_EQ(tree(), kPageAlone);
         const QByteArray page = contentsOf(kPage);
-        EXPECT_EQ(page.count("<div class=\"main\">"), row.conversations);
+        EXPECT_EQ(page.count(R"(<div class="main">)"), row.conversations);
         EXPECT_TRUE(page.endsWith("</div></body></html>"));
     }
 }
@@ -228,7 +228,7 @@ TEST_F(ExportSms, ACancelAmongTheRowsKeepsThePageAndThePartialCsv)
         QStringList({"range", "step 50", "step 50", "step 0", "step 50", "step 50", "step 0"}));
     EXPECT_TRUE(result);
     EXPECT_EQ(tree(), kBothFormats);
-    EXPECT_EQ(contentsOf(kPage).count("<div class=\"main\">"), 2);
+    EXPECT_EQ(contentsOf(kPage).count(R"(<div class="main">)"), 2);
     EXPECT_EQ(contentsOf(kCsv).count(QByteArray("\n\0", 2)), 2) << "the labels and a row";
 }
 

@@ -41,7 +41,7 @@ const QStringList kSharedImages{
 
 class SmsPageFrame : public testing::Test {
 protected:
-    ~SmsPageFrame() override { OvResourceMgr::instance()->setProductResourceRoot({}); }
+    void TearDown() override { OvResourceMgr::instance()->setProductResourceRoot({}); }
 
     bool writeHeader(const QString& title = "Anna's Messages")
     {
@@ -121,7 +121,7 @@ TEST(SmsPageSheet, HasTheseRulesInOneLine)
     };
     // clang-format on
     EXPECT_EQ(smsStyleSheet().toStdString(),
-        ("<style type=\"text/css\">" + rules.join("") + "</style>").toStdString());
+        (R"(<style type="text/css">)" + rules.join("") + "</style>").toStdString());
 }
 
 TEST_F(SmsPageFrame, PrepareWritesNothing)
@@ -180,7 +180,7 @@ TEST_F(SmsPageFrame, TheHeaderOpensThePageWithTheTitle)
     } const rows[] = {
         {"plain", "Anna's Messages", "Anna's Messages"},
         {"empty", "", ""},
-        {"markup", "<b>\"A\" & B</b>", "&lt;b&gt;&quot;A&quot; &amp; B&lt;/b&gt;"},
+        {"markup", R"(<b>"A" & B</b>)", "&lt;b&gt;&quot;A&quot; &amp; B&lt;/b&gt;"},
         {"lines", "one\ntwo\r\n", "one<br>two\r<br>"},
         {"markup that is escaped already", "&amp;<br>", "&amp;amp;&lt;br&gt;"},
         {"place marks", "%1 %2", "%1 %2"},

@@ -47,7 +47,7 @@ TEST(SmsPageHeading, HasNamePhoneAndEmailEvenWhereTheyAreEmpty)
             "Name: Mia&nbsp;&nbsp;Phone: +49 171 5550101&nbsp;&nbsp;Email: mia@example.org"},
         {"none", {}, "Name: &nbsp;&nbsp;Phone: &nbsp;&nbsp;Email: "},
         {"phone alone", {"", "110"}, "Name: &nbsp;&nbsp;Phone: 110&nbsp;&nbsp;Email: "},
-        {"markup", {"<i>", "a\nb", "\"&\""},
+        {"markup", {"<i>", "a\nb", R"("&")"},
             "Name: &lt;i&gt;&nbsp;&nbsp;Phone: a<br>b&nbsp;&nbsp;Email: &quot;&amp;&quot;"},
         {"place marks", {"%1%2%3", "%2", "%1"},
             "Name: %1%2%3&nbsp;&nbsp;Phone: %2&nbsp;&nbsp;Email: %1"},
@@ -62,7 +62,7 @@ TEST(SmsPageHeading, HasNamePhoneAndEmailEvenWhereTheyAreEmpty)
 TEST(SmsPageHeading, LabelsAreTranslatedAndEscapedWithTheirValues)
 {
     const Translations translations(
-        {{"Name: %1", "<%1> \"Name\""}, {"Phone: %1", "no place"}, {"Email: %1", "%1 & %1"}});
+        {{"Name: %1", R"(<%1> "Name")"}, {"Phone: %1", "no place"}, {"Email: %1", "%1 & %1"}});
     EXPECT_EQ(headingOf({"Mia", "110", "m"}).toStdString(),
         R"(<div class="main"><h2>&lt;Mia&gt; &quot;Name&quot;&nbsp;&nbsp;no place)"
         "&nbsp;&nbsp;m &amp; m</h2></div>");
@@ -137,9 +137,9 @@ TEST(SmsPageDates, EventsHaveDatesAndKindsTooAndChangeThem)
                                 {.date = halfPastTwo(), .content = "a"},
                                 {.normalSMS = false, .date = halfPastTwo(), .itemType = -1}})
                   .toStdString(),
-        ("<p>" + kSmsLine + "<br>Date: 2024-05-01 14:30</p><p class=\"event-msg\">Left</p>"
+        ("<p>" + kSmsLine + R"(<br>Date: 2024-05-01 14:30</p><p class="event-msg">Left</p>)"
             + receivedBubble("a") + "<p>" + kIMessageLine
-            + "<br>Date: 2024-05-01 14:30</p><p class=\"event-msg\"></p>")
+            + R"(<br>Date: 2024-05-01 14:30</p><p class="event-msg"></p>)")
             .toStdString());
 }
 
@@ -293,9 +293,9 @@ TEST_F(SmsPageSenders, ShowOnceBeforeAllBubblesOfAMessage)
             .chats = chatsOf(
                 {{.content = "a", .addr = "1", .pieces = {textPiece("b")}}, {.addr = "2"}})});
     const QString text = drawnMessages(item);
-    EXPECT_EQ(text.mid(text.indexOf("</p>") + 4), "<p class=\"cid\">Mia</p>" + receivedBubble("a")
+    EXPECT_EQ(text.mid(text.indexOf("</p>") + 4), R"(<p class="cid">Mia</p>)" + receivedBubble("a")
                                                       + receivedBubble("b") + dateLine("")
-                                                      + "<p class=\"cid\">Ben</p>");
+                                                      + R"(<p class="cid">Ben</p>)");
 }
 
 } // namespace

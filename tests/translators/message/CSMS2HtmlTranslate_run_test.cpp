@@ -189,8 +189,8 @@ TEST(SmsPageHostileText, ThatNamesFilesOpensNone)
 
 class SmsPageFile : public testing::Test {
 protected:
-    SmsPageFile() { OvResourceMgr::instance()->setProductResourceRoot("/nonexistent"); }
-    ~SmsPageFile() override { OvResourceMgr::instance()->setProductResourceRoot({}); }
+    void SetUp() override { OvResourceMgr::instance()->setProductResourceRoot("/nonexistent"); }
+    void TearDown() override { OvResourceMgr::instance()->setProductResourceRoot({}); }
 
     // The text of the page of one conversation, below its date.
     QByteArray fileWith(const QString& text) const
@@ -203,7 +203,7 @@ protected:
         EXPECT_TRUE(translator.translate(&exporter, "Anna's Cat", nullptr));
         EXPECT_TRUE(exporter.closeExport(true));
         const QByteArray page = tree.read("Cat/Anna's Cat.html");
-        const QByteArray begin = "<td class=\"mid-c\">";
+        const QByteArray begin = R"(<td class="mid-c">)";
         const int at = page.indexOf(begin) + begin.size();
         return page.mid(at, page.indexOf("&nbsp;</td>", at) - at);
     }

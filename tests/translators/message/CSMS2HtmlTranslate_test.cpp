@@ -102,7 +102,7 @@ TEST(SmsPageBubble, SideColourAndMarksInEveryCombination)
             deleted ? Deleted : 0);
         const QString sent = normal ? "main-right" : "main-right-imsg";
         const QString side = fromMe ? sent : "main-left";
-        EXPECT_TRUE(text.startsWith("<div class=\"" + side + "\">")) << text.toStdString();
+        EXPECT_TRUE(text.startsWith(R"(<div class=")" + side + R"(">)")) << text.toStdString();
         EXPECT_TRUE(text.contains(fromMe ? "<table class='sm'>" : "<table class='rm'>"));
         EXPECT_EQ(text.count(kFailure), failed ? 1 : 0);
         EXPECT_EQ(text.count(kSentMark), deleted && fromMe ? 1 : 0);
@@ -143,7 +143,7 @@ TEST(SmsPageText, IsEscapedWithItsLinesKept)
         QString text;
         QString shown;
     } const rows[] = {
-        {"markup", "<b>&\"'</b>", "&lt;b&gt;&amp;&quot;'&lt;/b&gt;"},
+        {"markup", R"(<b>&"'</b>)", "&lt;b&gt;&amp;&quot;'&lt;/b&gt;"},
         {"lines", "\none\r\ntwo\n", "<br>one\r<br>two<br>"},
         {"one blank", " ", " "},
         {"place marks", "%1 %2 %9 %%", "%1 %2 %9 %%"},

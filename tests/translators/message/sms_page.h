@@ -144,7 +144,7 @@ inline QString drawnMessage(const SmsMessage& message, int flags = 0)
 /// A bubble without marks, by side and colour; the cell is that of its text.
 inline QString bubbleWith(const QString& cell, const QString& side, const QString& colour)
 {
-    return "<div class=\"" + side + "\"><table class='" + colour
+    return R"(<div class=")" + side + R"("><table class=')" + colour
            + R"('><tr><td><table border="0" cellpadding="0" cellspacing="0" class="msg-box">)"
              R"(<tr><td class="top-l"></td><td class="top-c"></td><td class="top-r"></td></tr>)"
              R"(<tr><td class="mid-l"></td>)"
@@ -157,18 +157,18 @@ inline QString bubbleWith(const QString& cell, const QString& side, const QStrin
 /// Received bubbles of texts that are already escaped.
 inline QString receivedBubble(const QString& text)
 {
-    return bubbleWith("<td class=\"mid-c\">" + text + "&nbsp;</td>", "main-left", "rm");
+    return bubbleWith(R"(<td class="mid-c">)" + text + "&nbsp;</td>", "main-left", "rm");
 }
 inline QString receivedIconBubble(const QString& icon, const QString& text)
 {
-    return bubbleWith("<td class=\"mid-c\"><table><tr><td><img src=\"" + icon + "\" /></td><td>"
+    return bubbleWith(R"(<td class="mid-c"><table><tr><td><img src=")" + icon + R"(" /></td><td>)"
                           + text + "&nbsp;</td></tr></table></td>",
         "main-left", "rm");
 }
 inline QString receivedPicture(const QString& path)
 {
-    return "<div class=\"main-left\"><table><tr><td><img src=\"" + path
-           + "\" /></td><td></td></tr></table></div>";
+    return R"(<div class="main-left"><table><tr><td><img src=")" + path
+           + R"(" /></td><td></td></tr></table></div>)";
 }
 
 /// A picture of one colour as a file has it.
