@@ -9,6 +9,9 @@
 
 #include "backup/readers/core_data.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace backup {
 
 namespace {
@@ -32,16 +35,6 @@ enum AttachmentColumn : int {
     MediaFileName,
     MediaGeneration,
 };
-
-// An attachment, or nothing to read where the store has none of the kind.
-formats::Statement rowsOf(
-    const formats::Database& database, QLatin1String kind, const QString& select)
-{
-    const auto entity = entityNumber(database, kind);
-    auto query =
-        database.prepare(select + " WHERE o.Z_ENT = "_L1 + QString::number(entity.value_or(-1)));
-    return query ? std::move(*query) : formats::Statement();
-}
 
 NoteAttachment attachmentOf(const formats::Statement& row)
 {
@@ -82,6 +75,15 @@ NoteAttachments::NoteAttachments(const formats::Database& database)
     }
 }
 
+void NoteAttachments::readKind(const formats::Database& database, QLatin1String kind,
+    const QString& select, const std::function<void(const formats::Statement&)>& take)
+{
+    const auto entity = entityNumber(database, kind);
+    const bool isWhole = readRows(database,
+        select + " WHERE o.Z_ENT = "_L1 + QString::number(entity.value_or(-1)), "o.Z_PK"_L1, take);
+    m_isDamaged = m_isDamaged || !isWhole;
+}
+
 void NoteAttachments::readAttachments(const formats::Database& database)
 {
     const TableColumns columns(database, kObjects);
@@ -105,36 +107,42 @@ void NoteAttachments::readAttachments(const formats::Database& database)
     };
     const QString media =
         columns.has("ZMEDIA"_L1) ? QStringLiteral("o.ZMEDIA") : QStringLiteral("NULL");
-    auto rows = rowsOf(database, "ICAttachment"_L1,
+    readKind(database, "ICAttachment"_L1,
         "SELECT "_L1 + selected.join(QChar(u','))
             + " FROM ZICCLOUDSYNCINGOBJECT o LEFT JOIN ZICCLOUDSYNCINGOBJECT m ON m.Z_PK = "_L1
-            + media);
-    while (rows.next()) {
-        const auto index = static_cast<int>(m_all.size());
-        m_all.push_back(attachmentOf(rows));
-        m_byId.insert(m_all.back().id, index);
-        m_byIdentifier.insert(m_all.back().identifier, index);
-    }
+            + media,
+        [this](const formats::Statement& row) { add(attachmentOf(row)); });
+}
+
+void NoteAttachments::add(NoteAttachment attachment)
+{
+    const auto index = static_cast<int>(m_all.size());
+    m_byId.insert(attachment.id, index);
+    m_byIdentifier.insert(attachment.identifier, index);
+    m_all.push_back(std::move(attachment));
 }
 
 // Media that name their attachments.
 void NoteAttachments::readMedia(const formats::Database& database)
 {
     const TableColumns columns(database, kObjects);
-    auto rows = rowsOf(database, "ICMedia"_L1,
-        "SELECT "_L1 + columns.firstOf("o"_L1, {"ZATTACHMENT1"_L1, "ZATTACHMENT"_L1}) + ","_L1
-            + columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}) + ","_L1
-            + columns.firstOf("o"_L1, {"ZFILENAME"_L1}) + ","_L1
-            + columns.firstOf("o"_L1, {"ZGENERATION1"_L1, "ZGENERATION"_L1})
-            + " FROM ZICCLOUDSYNCINGOBJECT o"_L1);
-    while (rows.next()) {
-        NoteAttachment* attachment = byId(rows.integer(0));
-        if (attachment != nullptr && attachment->mediaId.isEmpty()) {
-            attachment->mediaId = rows.text(1);
-            attachment->fileName = rows.text(2);
-            attachment->mediaGeneration = rows.text(3);
-        }
-    }
+    const QStringList selected{
+        "o.Z_PK"_L1,
+        columns.firstOf("o"_L1, {"ZATTACHMENT1"_L1, "ZATTACHMENT"_L1}),
+        columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}),
+        columns.firstOf("o"_L1, {"ZFILENAME"_L1}),
+        columns.firstOf("o"_L1, {"ZGENERATION1"_L1, "ZGENERATION"_L1}),
+    };
+    readKind(database, "ICMedia"_L1,
+        "SELECT "_L1 + selected.join(QChar(u',')) + " FROM ZICCLOUDSYNCINGOBJECT o"_L1,
+        [this](const formats::Statement& row) {
+            NoteAttachment* attachment = byId(row.integer(1));
+            if (attachment != nullptr && attachment->mediaId.isEmpty()) {
+                attachment->mediaId = row.text(2);
+                attachment->fileName = row.text(3);
+                attachment->mediaGeneration = row.text(4);
+            }
+        });
 }
 
 void NoteAttachments::readPreviews(const formats::Database& database)
@@ -143,33 +151,33 @@ void NoteAttachments::readPreviews(const formats::Database& database)
     const auto size = [&](QLatin1String name) {
         return "coalesce("_L1 + columns.firstOf("o"_L1, {name}) + ",1)"_L1;
     };
-    const QString select = "SELECT "_L1
-                           + columns.firstOf("o"_L1, {"ZATTACHMENT"_L1, "ZATTACHMENT1"_L1}) + ","_L1
-                           + columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}) + ","_L1
-                           + columns.firstOf("o"_L1, {"ZGENERATION"_L1, "ZGENERATION1"_L1})
-                           + " FROM ZICCLOUDSYNCINGOBJECT o"_L1;
-    const auto entity = entityNumber(database, "ICAttachmentPreviewImage"_L1);
-    auto rows =
-        database.prepare(select + " WHERE o.Z_ENT = "_L1 + QString::number(entity.value_or(-1))
-                         + " ORDER BY "_L1 + size("ZWIDTH"_L1) + " * "_L1 + size("ZHEIGHT"_L1)
-                         + " * "_L1 + size("ZSCALE"_L1) + " DESC, o.Z_PK"_L1);
-    while (rows && rows->next()) {
-        if (NoteAttachment* attachment = byId(rows->integer(0))) {
-            attachment->previews.push_back(
-                {.identifier = rows->text(1), .generation = rows->text(2)});
-        }
+    const QStringList selected{
+        "o.Z_PK"_L1,
+        columns.firstOf("o"_L1, {"ZATTACHMENT"_L1, "ZATTACHMENT1"_L1}),
+        columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}),
+        columns.firstOf("o"_L1, {"ZGENERATION"_L1, "ZGENERATION1"_L1}),
+        size("ZWIDTH"_L1) + " * "_L1 + size("ZHEIGHT"_L1) + " * "_L1 + size("ZSCALE"_L1),
+    };
+    readKind(database, "ICAttachmentPreviewImage"_L1,
+        "SELECT "_L1 + selected.join(QChar(u',')) + " FROM ZICCLOUDSYNCINGOBJECT o"_L1,
+        [this](const formats::Statement& row) {
+            if (NoteAttachment* attachment = byId(row.integer(1))) {
+                attachment->previews.push_back(
+                    {.identifier = row.text(2), .generation = row.text(3), .size = row.real(4)});
+            }
+        });
+    for (NoteAttachment& attachment : m_all) {
+        std::ranges::stable_sort(attachment.previews, std::ranges::greater(), &NotePreview::size);
     }
 }
 
 void NoteAttachments::readInlineTexts(const formats::Database& database)
 {
     const TableColumns columns(database, kObjects);
-    auto rows = rowsOf(database, "ICInlineAttachment"_L1,
-        "SELECT "_L1 + columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}) + ","_L1
-            + columns.firstOf("o"_L1, {"ZALTTEXT"_L1}) + " FROM ZICCLOUDSYNCINGOBJECT o"_L1);
-    while (rows.next()) {
-        m_inlineTexts.insert(rows.text(0), rows.text(1));
-    }
+    readKind(database, "ICInlineAttachment"_L1,
+        "SELECT o.Z_PK,"_L1 + columns.firstOf("o"_L1, {"ZIDENTIFIER"_L1}) + ","_L1
+            + columns.firstOf("o"_L1, {"ZALTTEXT"_L1}) + " FROM ZICCLOUDSYNCINGOBJECT o"_L1,
+        [this](const formats::Statement& row) { m_inlineTexts.insert(row.text(1), row.text(2)); });
 }
 
 NoteAttachment* NoteAttachments::byId(qint64 id)

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -15,6 +16,7 @@ namespace backup {
 struct NotePreview {
     QString identifier;
     QString generation; ///< since iOS 17
+    double size = 0;    ///< in pixels
 };
 
 /// A file, a table, a link or something else that is part of a note.
@@ -46,6 +48,8 @@ public:
     explicit NoteAttachments(const formats::Database& database);
 
     const std::vector<NoteAttachment>& all() const { return m_all; }
+    /// Whether some rows could not be read.
+    bool isDamaged() const { return m_isDamaged; }
     /// Null where there is none of that identifier.
     const NoteAttachment* find(const QString& identifier) const;
     std::vector<const NoteAttachment*> childrenOf(const NoteAttachment& parent) const;
@@ -61,9 +65,13 @@ private:
     void readMedia(const formats::Database& database);
     void readPreviews(const formats::Database& database);
     void readInlineTexts(const formats::Database& database);
+    void readKind(const formats::Database& database, QLatin1String kind, const QString& select,
+        const std::function<void(const formats::Statement&)>& take);
+    void add(NoteAttachment attachment);
     NoteAttachment* byId(qint64 id);
 
     std::vector<NoteAttachment> m_all;
+    bool m_isDamaged = false;
     QHash<QString, int> m_byIdentifier;
     QHash<qint64, int> m_byId;
     QHash<QString, QString> m_inlineTexts;

@@ -56,8 +56,7 @@ NoteStore::NoteStore(OpenedDatabase database, const FileLocator& files, Notices&
         m_bodies = std::move(*query);
     }
     if (m_rows.damaged) {
-        notices.add(
-            tr("%1 is damaged; what can be read of it is there.").arg("NoteStore.sqlite"_L1));
+        noteDamage();
     }
     noteCount(notices, m_rows.leftOut,
         QT_TRANSLATE_NOOP("DataExport", "One note was never downloaded to the phone."),
@@ -74,8 +73,16 @@ const NoteAttachments& NoteStore::attachments()
 {
     if (!m_attachments) {
         m_attachments.emplace(m_database.database);
+        if (m_attachments->isDamaged()) {
+            noteDamage();
+        }
     }
     return *m_attachments;
+}
+
+void NoteStore::noteDamage() const
+{
+    m_notices.add(tr("%1 is damaged; what can be read of it is there.").arg("NoteStore.sqlite"_L1));
 }
 
 // None where its row cannot be read; empty for a note without a text.

@@ -31,6 +31,7 @@ protected:
 
 private:
     const NoteAttachments& attachments();
+    void noteDamage() const;
     std::optional<QByteArray> body(const NoteRow& row);
     NoteContent damaged(std::size_t index, const QString& why);
     void addFiles(std::vector<NoteFile>& files, const NoteAttachment& attachment,

@@ -70,23 +70,26 @@ void OldNoteStore::readNotes()
                      : " LEFT JOIN (SELECT NULL AS ZNAME) AS ZSTORE"_L1;
     sql += hasAccounts ? " LEFT JOIN ZACCOUNT ON ZACCOUNT.Z_PK = ZSTORE.ZACCOUNT"_L1
                        : " LEFT JOIN (SELECT NULL AS ZNAME) AS ZACCOUNT"_L1;
-    auto rows = database.prepare(
-        sql + " WHERE coalesce("_L1 + first("ZISBOOKKEEPINGENTRY"_L1) + ",0) = 0"_L1);
-    while (rows && rows->next()) {
-        const QString title = rows->text(Title);
-        m_notes.push_back({.title = title.isEmpty() ? rows->text(Summary) : title,
-            .folder = rows->text(Folder),
-            .account = rows->text(Account),
-            .created = rows->real(Created),
-            .modified = rows->real(Modified),
-            .deleted = rows->integer(IsDeleted) != 0});
-        m_ids.push_back(rows->integer(Id));
-    }
-    if (!rows || rows->failed()) {
+    const bool isWhole = readRows(database,
+        sql + " WHERE coalesce("_L1 + first("ZISBOOKKEEPINGENTRY"_L1) + ",0) = 0"_L1, "n.Z_PK"_L1,
+        [this](const formats::Statement& row) { add(row); });
+    if (!isWhole) {
         m_notices.add(QCoreApplication::translate(
             "DataExport", "%1 is damaged; what can be read of it is there.")
                           .arg("notes.sqlite"_L1));
     }
+}
+
+void OldNoteStore::add(const formats::Statement& row)
+{
+    const QString title = row.text(Title);
+    m_notes.push_back({.title = title.isEmpty() ? row.text(Summary) : title,
+        .folder = row.text(Folder),
+        .account = row.text(Account),
+        .created = row.real(Created),
+        .modified = row.real(Modified),
+        .deleted = row.integer(IsDeleted) != 0});
+    m_ids.push_back(row.integer(Id));
 }
 
 NoteContent OldNoteStore::load(std::size_t index)

@@ -28,6 +28,7 @@ protected:
 
 private:
     void readNotes();
+    void add(const formats::Statement& row);
     QString attachmentName(qint64 note, const QString& contentId);
 
     OpenedDatabase m_database;

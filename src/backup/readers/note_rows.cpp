@@ -14,7 +14,7 @@
 #include <QHash>
 #include <QRegularExpression>
 
-#include <cstdint>
+#include <functional>
 
 namespace backup {
 
@@ -101,38 +101,44 @@ private:
         return m_columns.firstOf("o"_L1, names);
     }
 
-    formats::Statement select(const QStringList& columns, const QString& rest)
+    // All rows of a kind; the first of the columns is the row's number.
+    void readObjects(const QStringList& columns, const QString& condition,
+        const std::function<void(const formats::Statement&)>& take)
     {
-        auto query = m_database.prepare(
-            "SELECT "_L1 + columns.join(QChar(u',')) + " FROM ZICCLOUDSYNCINGOBJECT o "_L1 + rest);
-        return query ? std::move(*query) : formats::Statement();
+        const QString query = "SELECT o.Z_PK,"_L1 + columns.join(QChar(u','))
+                              + " FROM ZICCLOUDSYNCINGOBJECT o WHERE "_L1 + condition;
+        if (!readRows(m_database, query, "o.Z_PK"_L1, take)) {
+            m_result.damaged = true;
+        }
     }
 
     void readAccounts()
     {
-        auto rows = select({"o.Z_PK"_L1, first({"ZNAME"_L1}), first({"ZIDENTIFIER"_L1})},
-            "WHERE "_L1 + entityCondition(m_database, "o"_L1, "ICAccount"_L1));
-        while (rows.next()) {
-            m_accounts.insert(rows.integer(0), {.name = rows.text(1), .identifier = rows.text(2)});
-            m_result.accountIds.append(rows.text(2));
-        }
+        readObjects({first({"ZNAME"_L1}), first({"ZIDENTIFIER"_L1})},
+            entityCondition(m_database, "o"_L1, "ICAccount"_L1),
+            [this](const formats::Statement& row) {
+                m_accounts.insert(row.integer(0), {.name = row.text(1), .identifier = row.text(2)});
+                m_result.accountIds.append(row.text(2));
+            });
     }
 
     void readFolders()
     {
-        auto rows = select({"o.Z_PK"_L1, first({"ZTITLE2"_L1, "ZTITLE1"_L1, "ZTITLE"_L1}),
-                               first({"ZIDENTIFIER"_L1}), first({"ZPARENT"_L1}),
-                               accountColumn(m_database, "ICFolder"_L1), first({"ZFOLDERTYPE"_L1})},
-            "WHERE "_L1 + entityCondition(m_database, "o"_L1, "ICFolder"_L1));
-        while (rows.next()) {
-            FolderRow folder{.title = rows.text(1),
-                .identifier = rows.text(2),
-                .parent = rows.integer(3),
-                .account = rows.integer(4)};
-            folder.isTrash =
-                rows.integer(5) == kTrash || folder.identifier.startsWith("TrashFolder"_L1);
-            m_folders.insert(rows.integer(0), folder);
-        }
+        readObjects({first({"ZTITLE2"_L1, "ZTITLE1"_L1, "ZTITLE"_L1}), first({"ZIDENTIFIER"_L1}),
+                        first({"ZPARENT"_L1}), accountColumn(m_database, "ICFolder"_L1),
+                        first({"ZFOLDERTYPE"_L1})},
+            entityCondition(m_database, "o"_L1, "ICFolder"_L1),
+            [this](const formats::Statement& row) { addFolder(row); });
+    }
+
+    void addFolder(const formats::Statement& row)
+    {
+        FolderRow folder{.title = row.text(1),
+            .identifier = row.text(2),
+            .parent = row.integer(3),
+            .account = row.integer(4)};
+        folder.isTrash = row.integer(5) == kTrash || folder.identifier.startsWith("TrashFolder"_L1);
+        m_folders.insert(row.integer(0), folder);
     }
 
     void readJoinedFolders()
@@ -167,35 +173,15 @@ private:
                    : QStringLiteral("o.Z_PK IN (SELECT ZNOTE FROM ZICNOTEDATA)");
     }
 
-    // Around a damaged page the notes before it come first, then those behind it from the last on.
     void readNotes()
     {
-        auto rows = selectNotes({});
-        qint64 last = INT64_MIN;
-        while (rows.next()) {
-            last = rows.integer(Id);
-            addNote(rows);
-        }
-        if (!rows.failed()) {
-            return;
-        }
-        m_result.damaged = true;
-        auto backwards = selectNotes(" DESC"_L1);
-        while (backwards.next() && backwards.integer(Id) > last) {
-            addNote(backwards);
-        }
-    }
-
-    formats::Statement selectNotes(const QString& direction)
-    {
-        return select(
-            {"o.Z_PK"_L1, first({"ZTITLE1"_L1, "ZTITLE2"_L1, "ZTITLE"_L1}), first({"ZSNIPPET"_L1}),
-                first({"ZCREATIONDATE3"_L1, "ZCREATIONDATE1"_L1, "ZCREATIONDATE"_L1}),
-                first({"ZMODIFICATIONDATE1"_L1, "ZMODIFICATIONDATE"_L1}),
-                first({"ZMARKEDFORDELETION"_L1}), first({"ZISPASSWORDPROTECTED"_L1}),
-                first({"ZFOLDER"_L1}), accountColumn(m_database, "ICNote"_L1),
-                first({"ZNOTEDATA"_L1})},
-            "WHERE "_L1 + isNote() + " ORDER BY o.Z_PK"_L1 + direction);
+        readObjects({first({"ZTITLE1"_L1, "ZTITLE2"_L1, "ZTITLE"_L1}), first({"ZSNIPPET"_L1}),
+                        first({"ZCREATIONDATE3"_L1, "ZCREATIONDATE1"_L1, "ZCREATIONDATE"_L1}),
+                        first({"ZMODIFICATIONDATE1"_L1, "ZMODIFICATIONDATE"_L1}),
+                        first({"ZMARKEDFORDELETION"_L1}), first({"ZISPASSWORDPROTECTED"_L1}),
+                        first({"ZFOLDER"_L1}), accountColumn(m_database, "ICNote"_L1),
+                        first({"ZNOTEDATA"_L1})},
+            isNote(), [this](const formats::Statement& row) { addNote(row); });
     }
 
     void addNote(const formats::Statement& columns)

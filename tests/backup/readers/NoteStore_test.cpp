@@ -266,6 +266,26 @@ TEST_F(NoteStoreTest, TruncatedStoreNeverCrashes)
     }
 }
 
+TEST_F(NoteStoreTest, DamagedPageCostsOnlyItsAttachments)
+{
+    const qint64 id = store().plainNote("Title", "Text");
+    for (int number = 1; number <= 200; ++number) {
+        store().attachment({{"ZIDENTIFIER", QString("A%1").arg(number)}, {"ZNOTE", id},
+            {"ZTITLE", QString("%1 %2").arg(number).arg(QString(200, 'x'))},
+            {"ZMEDIA", store().object("ICMedia", {{"ZIDENTIFIER", "M"}})}});
+    }
+    QByteArray bytes = store().bytes();
+    const int middle = bytes.indexOf("100 xxx") / 4096 * 4096;
+    ASSERT_GT(middle, 0);
+    bytes.replace(middle, 4096, QByteArray(4096, '\x55'));
+    writeFile(m_directory.filePath("damaged.db"), bytes);
+    take(backup::openDatabaseFile(m_directory.filePath("damaged.db")));
+    EXPECT_EQ(column(4), QStringList("Text"));
+    EXPECT_GT(files()->count(1), 150);
+    EXPECT_EQ(
+        notices(), QStringList("NoteStore.sqlite is damaged; what can be read of it is there."));
+}
+
 TEST_F(NoteStoreTest, DamagedPageCostsOnlyItsNotes)
 {
     for (int number = 1; number <= 200; ++number) {
