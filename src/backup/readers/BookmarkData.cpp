@@ -12,6 +12,7 @@
 #include "platform/literals.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -24,7 +25,6 @@ namespace {
 enum SpecialFolder : int { Ordinary = 0, Favourites = 1, Menu = 2, ReadingList = 3 };
 
 constexpr int kFolder = 1;
-constexpr int kDeepest = 100; // folders in one another; more is a ring of them
 
 enum Column : int {
     Id,
@@ -139,8 +139,10 @@ private:
         QStringList path;
         qint64 id = leaf.parent;
         bool inReadingList = leaf.inReadingList;
-        for (int depth = 0; id != 0 && m_folders.contains(id) && depth < kDeepest; ++depth) {
+        QSet<qint64> seen; // damaged folders can make a ring
+        while (id != 0 && m_folders.contains(id) && !seen.contains(id)) {
             const Folder folder = m_folders.value(id);
+            seen.insert(id);
             inReadingList |= folder.special == ReadingList;
             place.deleted |= folder.deleted;
             place.shown &= inReadingList || (!folder.hidden && folder.special <= ReadingList);

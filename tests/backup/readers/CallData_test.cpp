@@ -8,18 +8,18 @@ constexpr int kCalls = 3;
 // 2023-03-08 20:26:40 UTC is 700,000,000 seconds after 2001 began; the tests' clock is 2 hours
 // ahead.
 const QString kRecords =
-    "CREATE TABLE ZCALLRECORD (Z_PK INTEGER PRIMARY KEY, ZADDRESS VARCHAR, ZNAME VARCHAR,"
-    " ZDATE TIMESTAMP, ZDURATION FLOAT, ZORIGINATED INTEGER, ZANSWERED INTEGER, ZCALLTYPE INTEGER,"
-    " ZSERVICE_PROVIDER VARCHAR, ZCALL_CATEGORY INTEGER)";
+    R"(CREATE TABLE ZCALLRECORD (Z_PK INTEGER PRIMARY KEY, ZADDRESS VARCHAR, ZNAME VARCHAR,
+            ZDATE TIMESTAMP, ZDURATION FLOAT, ZORIGINATED INTEGER, ZANSWERED INTEGER,
+            ZCALLTYPE INTEGER, ZSERVICE_PROVIDER VARCHAR, ZCALL_CATEGORY INTEGER))";
 
 const QStringList kAddressBook{
-    "CREATE TABLE ABPerson (ROWID INTEGER PRIMARY KEY, First TEXT, Last TEXT, Nickname TEXT,"
-    " Organization TEXT)",
-    "CREATE TABLE ABMultiValue (UID INTEGER PRIMARY KEY, record_id INTEGER, property INTEGER,"
-    " value TEXT)",
+    R"(CREATE TABLE ABPerson (ROWID INTEGER PRIMARY KEY, First TEXT, Last TEXT, Nickname TEXT,
+            Organization TEXT))",
+    R"(CREATE TABLE ABMultiValue (UID INTEGER PRIMARY KEY, record_id INTEGER, property INTEGER,
+            value TEXT))",
     "INSERT INTO ABPerson (First) VALUES ('Mia'), ('Jo')",
-    "INSERT INTO ABMultiValue (record_id, property, value) VALUES (1, 3, '0171 5550101'),"
-    " (2, 4, 'jo@example.org')"};
+    R"(INSERT INTO ABMultiValue (record_id, property, value) VALUES (1, 3, '0171 5550101'),
+            (2, 4, 'jo@example.org'))"};
 
 QString call(const QString& values)
 {
@@ -136,8 +136,8 @@ TEST_F(CallDataTest, NameComesFromTheAddressBookThenTheStoreThenTheNumber)
 TEST_F(CallDataTest, AllParticipantsOfAGroupCallAreNamed)
 {
     openWithBook({kRecords, "CREATE TABLE ZHANDLE (Z_PK INTEGER PRIMARY KEY, ZVALUE VARCHAR)",
-        "CREATE TABLE Z_3REMOTEPARTICIPANTHANDLES (Z_3REMOTEPARTICIPANTCALLS INTEGER,"
-        " Z_5REMOTEPARTICIPANTHANDLES INTEGER)",
+        R"(CREATE TABLE Z_3REMOTEPARTICIPANTHANDLES (Z_3REMOTEPARTICIPANTCALLS INTEGER,
+                Z_5REMOTEPARTICIPANTHANDLES INTEGER))",
         "INSERT INTO ZHANDLE VALUES (1, '+491715550101'), (2, '+12025550123')",
         "INSERT INTO Z_3REMOTEPARTICIPANTHANDLES VALUES (1, 1), (1, 2), (1, 2), (2, 1), (3, 999)",
         call("'+12025550123', NULL, 9, 0, 1, 1, 8, NULL, NULL"),
@@ -150,9 +150,10 @@ TEST_F(CallDataTest, AllParticipantsOfAGroupCallAreNamed)
 
 TEST_F(CallDataTest, AddressOfTheFirstReleasesIsBytes)
 {
-    openFile({"CREATE TABLE ZCALLRECORD (Z_PK INTEGER PRIMARY KEY, ZADDRESS BLOB, ZDATE, ZDURATION,"
-              " ZORIGINATED, ZANSWERED, ZCALLTYPE)",
-        "INSERT INTO ZCALLRECORD VALUES (1, x'2b34393137', 700000000, 61, 1, 1, 1)"});
+    openFile(
+        {R"(CREATE TABLE ZCALLRECORD (Z_PK INTEGER PRIMARY KEY, ZADDRESS BLOB, ZDATE, ZDURATION,
+            ZORIGINATED, ZANSWERED, ZCALLTYPE))",
+            "INSERT INTO ZCALLRECORD VALUES (1, x'2b34393137', 700000000, 61, 1, 1, 1)"});
     EXPECT_EQ(lines(kCalls),
         QStringList("+4917 | +4917 | 2023-03-08 22:26 | 0:01:01 | Outgoing | Phone"));
     EXPECT_EQ(notices(""), QStringList());
@@ -162,11 +163,11 @@ TEST_F(CallDataTest, OldStoreCountsFrom1970AndHasFlags)
 {
     // 2012-06-01 10:00:00 UTC
     builder().addDatabase("WirelessDomain", "Library/CallHistory/call_history.db",
-        {"CREATE TABLE call (ROWID INTEGER PRIMARY KEY, address TEXT, date INTEGER,"
-         " duration INTEGER, flags INTEGER, id INTEGER, name TEXT)",
-            "INSERT INTO call VALUES (1, '0401', 1338544800, 3725, 4, -1, NULL),"
-            " (2, '0402', 1338544860, 0, 4, -1, ''), (3, '0403', 1338544920, 5, 5, -1, 'Ina'),"
-            " (4, '', 1338544980, 20, 16, -1, NULL), (5, '0405', 1338545040, 20, 17, -1, NULL)"});
+        {R"(CREATE TABLE call (ROWID INTEGER PRIMARY KEY, address TEXT, date INTEGER,
+            duration INTEGER, flags INTEGER, id INTEGER, name TEXT))",
+            R"(INSERT INTO call VALUES (1, '0401', 1338544800, 3725, 4, -1, NULL),
+            (2, '0402', 1338544860, 0, 4, -1, ''), (3, '0403', 1338544920, 5, 5, -1, 'Ina'),
+            (4, '', 1338544980, 20, 16, -1, NULL), (5, '0405', 1338545040, 20, 17, -1, NULL))"});
     openFolder();
     EXPECT_EQ(lines(kCalls),
         QStringList({"0405 | 0405 | 2012-06-01 12:04 | 0:00:20 | Outgoing | FaceTime",
@@ -179,8 +180,8 @@ TEST_F(CallDataTest, OldStoreCountsFrom1970AndHasFlags)
 TEST_F(CallDataTest, OldStoreThatStayedAddsItsCalls)
 {
     builder().addDatabase("WirelessDomain", "Library/CallHistory/call_history.db",
-        {"CREATE TABLE call (ROWID INTEGER PRIMARY KEY, address TEXT, date INTEGER,"
-         " duration INTEGER, flags INTEGER)",
+        {R"(CREATE TABLE call (ROWID INTEGER PRIMARY KEY, address TEXT, date INTEGER,
+            duration INTEGER, flags INTEGER))",
             "INSERT INTO call VALUES (1, '0401', 1338544800, 1, 4)"});
     openWithBook({kRecords, call("'2', NULL, 700000000, 0, 0, 1, 1, NULL, NULL")});
     EXPECT_EQ(column(kCalls, 1), QStringList({"2", "0401"}));
@@ -197,8 +198,8 @@ TEST_F(CallDataTest, OddValuesCostNoCall)
 
 TEST_F(CallDataTest, ColumnThatEachReleaseHasIsMissedOnce)
 {
-    openFile({"CREATE TABLE ZCALLRECORD (Z_PK INTEGER PRIMARY KEY, ZADDRESS VARCHAR,"
-              " ZORIGINATED INTEGER, ZANSWERED INTEGER, ZDURATION FLOAT)",
+    openFile({R"(CREATE TABLE ZCALLRECORD (Z_PK INTEGER PRIMARY KEY, ZADDRESS VARCHAR,
+            ZORIGINATED INTEGER, ZANSWERED INTEGER, ZDURATION FLOAT))",
         "INSERT INTO ZCALLRECORD VALUES (1, '11', 1, 1, 2), (2, '12', 1, 1, 2)"});
     EXPECT_EQ(column(kCalls, 1), QStringList({"12", "11"}));
     EXPECT_EQ(notices("ZDATE").size(), 1);

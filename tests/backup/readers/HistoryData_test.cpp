@@ -7,10 +7,10 @@ constexpr int kHistory = 34;
 
 const QStringList kSchema{
     "CREATE TABLE history_items (id INTEGER PRIMARY KEY, url TEXT UNIQUE, visit_count INTEGER)",
-    "CREATE TABLE history_visits (id INTEGER PRIMARY KEY, history_item INTEGER, visit_time REAL,"
-    " title TEXT, redirect_source INTEGER, redirect_destination INTEGER, origin INTEGER)",
-    "CREATE TABLE history_tombstones (id INTEGER PRIMARY KEY, start_time REAL, end_time REAL,"
-    " url TEXT, generation INTEGER)",
+    R"(CREATE TABLE history_visits (id INTEGER PRIMARY KEY, history_item INTEGER, visit_time REAL,
+            title TEXT, redirect_source INTEGER, redirect_destination INTEGER, origin INTEGER))",
+    R"(CREATE TABLE history_tombstones (id INTEGER PRIMARY KEY, start_time REAL, end_time REAL,
+            url TEXT, generation INTEGER))",
     "INSERT INTO history_items VALUES (1, 'https://a.example/', 1), (2, 'https://b.example/', 1)"};
 
 QString visit(const QString& values)
@@ -57,9 +57,9 @@ TEST_F(HistoryDataTest, DeletedVisitsLeaveTheirAddress)
 {
     openFile(kSchema
              + QStringList{visit("1, 700000000, 'A', NULL"),
-                 "INSERT INTO history_tombstones VALUES (1, 1, 700000100, 'https://gone.example/',"
-                 " 1), (2, 700000060, 63113904000, 'https://all.example/', 1),"
-                 " (3, 1, 700000100, NULL, 1)"});
+                 R"(INSERT INTO history_tombstones VALUES (1, 1, 700000100, 'https://gone.example/',
+            1), (2, 700000060, 63113904000, 'https://all.example/', 1),
+            (3, 1, 700000100, NULL, 1))"});
     EXPECT_EQ(lines(kHistory),
         QStringList({"x [History] | https://gone.example/ | https://gone.example/"
                      " | 2023-03-08 22:28",
@@ -141,12 +141,12 @@ TEST_F(HistoryDataTest, HundredThousandVisitsAreReadWhole)
 {
     const QByteArray bytes = databaseBytes(
         QStringList{kSchema[0], kSchema[1],
-            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20000)"
-            " INSERT INTO history_items SELECT i, 'https://site' || i || '.example/path', 5"
-            " FROM n",
-            "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100000)"
-            " INSERT INTO history_visits (history_item, visit_time, title) SELECT"
-            " 1 + i % 20000, 600000000 + i, 'The title of page ' || i FROM n"})
+            R"(WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20000)
+            INSERT INTO history_items SELECT i, 'https://site' || i || '.example/path', 5
+            FROM n)",
+            R"(WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100000)
+            INSERT INTO history_visits (history_item, visit_time, title) SELECT
+            1 + i % 20000, 600000000 + i, 'The title of page ' || i FROM n)"})
                                  .file;
     openFile(bytes);
     const PRData* set = m_opened->records.getPRData(kHistory);

@@ -12,21 +12,21 @@ QStringList newStore(const QStringList& more)
 {
     return QStringList{
                "CREATE TABLE Z_PRIMARYKEY (Z_ENT INTEGER PRIMARY KEY, Z_NAME VARCHAR)",
-               "INSERT INTO Z_PRIMARYKEY VALUES (7, 'REMCDAccount'), (8, 'REMCDRecurrenceRule'),"
-               " (9, 'REMCDHashtag'), (20, 'REMCDList'), (21, 'REMCDReminder')",
-               "CREATE TABLE ZREMCDREMINDER (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER,"
-               " ZTITLE VARCHAR, ZNOTES VARCHAR, ZICSURL VARCHAR, ZCOMPLETED INTEGER,"
-               " ZCOMPLETIONDATE TIMESTAMP, ZFLAGGED INTEGER, ZPRIORITY INTEGER, ZALLDAY INTEGER,"
-               " ZDUEDATE TIMESTAMP, ZMARKEDFORDELETION INTEGER, ZPARENTREMINDER INTEGER,"
-               " ZLIST INTEGER, ZACCOUNT INTEGER, ZICSDISPLAYORDER INTEGER)",
-               "CREATE TABLE ZREMCDBASELIST (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER,"
-               " ZNAME VARCHAR, ZMARKEDFORDELETION INTEGER)",
-               "CREATE TABLE ZREMCDOBJECT (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER, ZNAME VARCHAR,"
-               " ZMARKEDFORDELETION INTEGER, ZREMINDER INTEGER, ZREMINDER3 INTEGER,"
-               " ZREMINDER4 INTEGER)",
+               R"(INSERT INTO Z_PRIMARYKEY VALUES (7, 'REMCDAccount'), (8, 'REMCDRecurrenceRule'),
+            (9, 'REMCDHashtag'), (20, 'REMCDList'), (21, 'REMCDReminder'))",
+               R"(CREATE TABLE ZREMCDREMINDER (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER,
+            ZTITLE VARCHAR, ZNOTES VARCHAR, ZICSURL VARCHAR, ZCOMPLETED INTEGER,
+            ZCOMPLETIONDATE TIMESTAMP, ZFLAGGED INTEGER, ZPRIORITY INTEGER, ZALLDAY INTEGER,
+            ZDUEDATE TIMESTAMP, ZMARKEDFORDELETION INTEGER, ZPARENTREMINDER INTEGER,
+            ZLIST INTEGER, ZACCOUNT INTEGER, ZICSDISPLAYORDER INTEGER))",
+               R"(CREATE TABLE ZREMCDBASELIST (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER,
+            ZNAME VARCHAR, ZMARKEDFORDELETION INTEGER))",
+               R"(CREATE TABLE ZREMCDOBJECT (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER, ZNAME VARCHAR,
+            ZMARKEDFORDELETION INTEGER, ZREMINDER INTEGER, ZREMINDER3 INTEGER,
+            ZREMINDER4 INTEGER))",
                "INSERT INTO ZREMCDOBJECT (Z_PK, Z_ENT, ZNAME) VALUES (1, 7, 'Cloud')",
-               "INSERT INTO ZREMCDBASELIST VALUES (1, 20, 'Home', 0), (2, 20, 'Work', NULL),"
-               " (3, 20, 'Gone', 1)",
+               R"(INSERT INTO ZREMCDBASELIST VALUES (1, 20, 'Home', 0), (2, 20, 'Work', NULL),
+            (3, 20, 'Gone', 1))",
            }
            + more;
 }
@@ -113,8 +113,8 @@ TEST_F(ReminderDataTest, WhatIsMarkedForDeletionOrLiesInSuchAListIsDeleted)
 TEST_F(ReminderDataTest, RuleThatWasDeletedRepeatsNothing)
 {
     openFile(newStore({reminder("", "1, 'a', 1, 1"), reminder("", "2, 'b', 1, 1"),
-        "INSERT INTO ZREMCDOBJECT (Z_ENT, ZREMINDER3, ZMARKEDFORDELETION) VALUES (8, 1, 1),"
-        " (9, 2, 0)"}));
+        R"(INSERT INTO ZREMCDOBJECT (Z_ENT, ZREMINDER3, ZMARKEDFORDELETION) VALUES (8, 1, 1),
+            (9, 2, 0))"}));
     EXPECT_EQ(column(kReminders, 6), QStringList({"", ""}));
 }
 
@@ -153,17 +153,17 @@ TEST_F(ReminderDataTest, WhatThePhoneFoundInAppsIsNoReminder)
 TEST_F(ReminderDataTest, WideTableOfIos13To15IsRead)
 {
     openFile({"CREATE TABLE Z_PRIMARYKEY (Z_ENT INTEGER PRIMARY KEY, Z_NAME VARCHAR)",
-        "INSERT INTO Z_PRIMARYKEY VALUES (4, 'REMCDAccount'), (21, 'REMCDList'),"
-        " (22, 'REMCDRecurrenceRule'), (23, 'REMCDReminder')",
-        "CREATE TABLE ZREMCDOBJECT (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER, ZACCOUNT INTEGER,"
-        " ZMARKEDFORDELETION INTEGER, ZREMINDER INTEGER, ZREMINDER3 INTEGER, ZALLDAY INTEGER,"
-        " ZCOMPLETED INTEGER, ZFLAGGED INTEGER, ZPRIORITY INTEGER, ZLIST INTEGER,"
-        " ZPARENTREMINDER INTEGER, ZCOMPLETIONDATE TIMESTAMP, ZDUEDATE TIMESTAMP, ZNAME VARCHAR,"
-        " ZTITLE VARCHAR, ZNAME1 VARCHAR, ZNOTES VARCHAR, ZTITLE1 VARCHAR)",
+        R"(INSERT INTO Z_PRIMARYKEY VALUES (4, 'REMCDAccount'), (21, 'REMCDList'),
+            (22, 'REMCDRecurrenceRule'), (23, 'REMCDReminder'))",
+        R"(CREATE TABLE ZREMCDOBJECT (Z_PK INTEGER PRIMARY KEY, Z_ENT INTEGER, ZACCOUNT INTEGER,
+            ZMARKEDFORDELETION INTEGER, ZREMINDER INTEGER, ZREMINDER3 INTEGER, ZALLDAY INTEGER,
+            ZCOMPLETED INTEGER, ZFLAGGED INTEGER, ZPRIORITY INTEGER, ZLIST INTEGER,
+            ZPARENTREMINDER INTEGER, ZCOMPLETIONDATE TIMESTAMP, ZDUEDATE TIMESTAMP, ZNAME VARCHAR,
+            ZTITLE VARCHAR, ZNAME1 VARCHAR, ZNOTES VARCHAR, ZTITLE1 VARCHAR))",
         "INSERT INTO ZREMCDOBJECT (Z_PK, Z_ENT, ZNAME) VALUES (1, 4, 'Local')",
         "INSERT INTO ZREMCDOBJECT (Z_PK, Z_ENT, ZNAME1) VALUES (2, 21, 'Errands')",
-        "INSERT INTO ZREMCDOBJECT (Z_PK, Z_ENT, ZACCOUNT, ZLIST, ZTITLE1, ZNOTES, ZDUEDATE,"
-        " ZPRIORITY) VALUES (3, 23, 1, 2, 'Post', 'stamps', 700000000, 9)",
+        R"(INSERT INTO ZREMCDOBJECT (Z_PK, Z_ENT, ZACCOUNT, ZLIST, ZTITLE1, ZNOTES, ZDUEDATE,
+            ZPRIORITY) VALUES (3, 23, 1, 2, 'Post', 'stamps', 700000000, 9))",
         "INSERT INTO ZREMCDOBJECT (Z_PK, Z_ENT, ZREMINDER3) VALUES (4, 22, 3)",
         "INSERT INTO ZREMCDOBJECT (Z_PK, Z_ENT, ZTITLE) VALUES (5, 6, 'a place')"});
     EXPECT_EQ(lines(kReminders),
@@ -172,10 +172,10 @@ TEST_F(ReminderDataTest, WideTableOfIos13To15IsRead)
 }
 
 const QStringList kCalendar{
-    "CREATE TABLE CalendarItem (ROWID INTEGER PRIMARY KEY, summary TEXT, description TEXT,"
-    " calendar_id INTEGER, url TEXT, hidden INTEGER, entity_type INTEGER, priority INTEGER,"
-    " due_date REAL, due_tz TEXT, due_all_day INTEGER, completion_date REAL, display_order "
-    "INTEGER)",
+    R"(CREATE TABLE CalendarItem (ROWID INTEGER PRIMARY KEY, summary TEXT, description TEXT,
+            calendar_id INTEGER, url TEXT, hidden INTEGER, entity_type INTEGER, priority INTEGER,
+            due_date REAL, due_tz TEXT, due_all_day INTEGER, completion_date REAL, display_order
+            INTEGER))",
     "CREATE TABLE Calendar (ROWID INTEGER PRIMARY KEY, title TEXT)",
     "CREATE TABLE Recurrence (ROWID INTEGER PRIMARY KEY, owner_id INTEGER)",
     "INSERT INTO Calendar VALUES (2, 'Events'), (3, 'DEFAULT_TASK_CALENDAR_NAME'), (4, 'Garden')"};
@@ -185,15 +185,15 @@ TEST_F(ReminderDataTest, TasksOfAnOldCalendarAreReminders)
     builder().addDatabase("HomeDomain", "Library/Calendar/Calendar.sqlitedb",
         kCalendar
             + QStringList{
-                "INSERT INTO CalendarItem (ROWID, summary, calendar_id, entity_type) VALUES"
-                " (1, 'An event', 2, 2)",
-                "INSERT INTO CalendarItem (ROWID, summary, description, calendar_id, entity_type,"
-                " priority, due_date, due_tz) VALUES (2, 'Call Ben', 'bike', 3, 3, 5, 700000000,"
-                " 'Europe/Berlin'), (3, 'Tea', NULL, 3, 3, 0, 700000000, '_float')",
-                "INSERT INTO CalendarItem (ROWID, summary, calendar_id, entity_type, due_date,"
-                " due_all_day, completion_date) VALUES (4, 'Water', 4, 3, 700012800, 1, 700000000)",
-                "INSERT INTO CalendarItem (ROWID, summary, calendar_id, entity_type, hidden)"
-                " VALUES (5, 'unseen', 4, 3, 1)",
+                R"(INSERT INTO CalendarItem (ROWID, summary, calendar_id, entity_type) VALUES
+            (1, 'An event', 2, 2))",
+                R"(INSERT INTO CalendarItem (ROWID, summary, description, calendar_id, entity_type,
+            priority, due_date, due_tz) VALUES (2, 'Call Ben', 'bike', 3, 3, 5, 700000000,
+            'Europe/Berlin'), (3, 'Tea', NULL, 3, 3, 0, 700000000, '_float'))",
+                R"(INSERT INTO CalendarItem (ROWID, summary, calendar_id, entity_type, due_date,
+            due_all_day, completion_date) VALUES (4, 'Water', 4, 3, 700012800, 1, 700000000))",
+                R"(INSERT INTO CalendarItem (ROWID, summary, calendar_id, entity_type, hidden)
+            VALUES (5, 'unseen', 4, 3, 1))",
                 "INSERT INTO Recurrence VALUES (1, 4), (2, 1)"});
     openFolder();
     EXPECT_EQ(lines(kReminders),
@@ -240,8 +240,8 @@ TEST_F(ReminderDataTest, StoreThatIsNoDatabaseCostsNoOther)
 
 TEST_F(ReminderDataTest, OddValuesCostNoReminder)
 {
-    openFile(newStore({"INSERT INTO ZREMCDREMINDER VALUES (1, 'x', x'ff00', 5, 6, 'a', 'b', 'c',"
-                       " 'd', 'e', 'f', 'g', 'h', 'i', 'j', 'k')",
+    openFile(newStore({R"(INSERT INTO ZREMCDREMINDER VALUES (1, 'x', x'ff00', 5, 6, 'a', 'b', 'c',
+            'd', 'e', 'f', 'g', 'h', 'i', 'j', 'k'))",
         "INSERT INTO ZREMCDREMINDER (Z_PK) VALUES (2)"}));
     EXPECT_EQ(lines(kReminders).size(), 2);
     EXPECT_EQ(column(kReminders, 3), QStringList({"", ""}));
