@@ -33,9 +33,11 @@ OldNoteStore::OldNoteStore(OpenedDatabase database, Notices& notices)
     : m_database(std::move(database)), m_notices(notices)
 {
     readNotes();
+    const bool namesBody = TableColumns(m_database.database, "ZNOTE"_L1).has("ZBODY"_L1);
     auto bodies = m_database.database.prepare(
-        "SELECT b.ZCONTENT FROM ZNOTEBODY b JOIN ZNOTE n ON b.Z_PK = n.ZBODY"
-        " WHERE n.Z_PK = ?"_L1);
+        namesBody ? "SELECT b.ZCONTENT FROM ZNOTEBODY b JOIN ZNOTE n ON b.Z_PK = n.ZBODY"
+                    " WHERE n.Z_PK = ?"_L1
+                  : "SELECT ZCONTENT FROM ZNOTEBODY WHERE ZOWNER = ?"_L1);
     if (bodies) {
         m_bodies = std::move(*bodies);
     }
@@ -65,7 +67,8 @@ void OldNoteStore::readNotes()
                         .join(QChar(u','))
                   + " FROM ZNOTE n"_L1;
     const bool hasStores = database.hasTable("ZSTORE"_L1) && columns.has("ZSTORE"_L1);
-    const bool hasAccounts = hasStores && database.hasTable("ZACCOUNT"_L1);
+    const bool hasAccounts = hasStores && database.hasTable("ZACCOUNT"_L1)
+                             && TableColumns(database, "ZSTORE"_L1).has("ZACCOUNT"_L1);
     sql += hasStores ? " LEFT JOIN ZSTORE ON ZSTORE.Z_PK = n.ZSTORE"_L1
                      : " LEFT JOIN (SELECT NULL AS ZNAME) AS ZSTORE"_L1;
     sql += hasAccounts ? " LEFT JOIN ZACCOUNT ON ZACCOUNT.Z_PK = ZSTORE.ZACCOUNT"_L1

@@ -62,6 +62,19 @@ TEST_F(OldNoteStoreTest, StoreMayLackTablesAndColumns)
     EXPECT_EQ(column(4), QStringList("text"));
 }
 
+TEST_F(OldNoteStoreTest, BodyMayNameItsNoteInstead)
+{
+    openOld({"INSERT INTO ZNOTEBODY VALUES (5, 1, 'text')", "INSERT INTO ZSTORE VALUES (1, 'S')",
+                "INSERT INTO ZACCOUNT VALUES (1, 'A')", "INSERT INTO ZNOTE VALUES (1, 'a', 1)"},
+        {"CREATE TABLE ZNOTE (Z_PK INTEGER PRIMARY KEY, ZTITLE, ZSTORE)",
+            "CREATE TABLE ZNOTEBODY (Z_PK INTEGER PRIMARY KEY, ZOWNER, ZCONTENT)",
+            "CREATE TABLE ZSTORE (Z_PK INTEGER PRIMARY KEY, ZNAME)",
+            "CREATE TABLE ZACCOUNT (Z_PK INTEGER PRIMARY KEY, ZNAME)"});
+    EXPECT_EQ(column(1), QStringList("S"));
+    EXPECT_EQ(column(4), QStringList("text"));
+    EXPECT_EQ(notices(), QStringList());
+}
+
 TEST_F(OldNoteStoreTest, StoresOfBothKindsMakeOneList)
 {
     store().note({{"ZTITLE1", "new"}, {"ZMODIFICATIONDATE1", 200}},
