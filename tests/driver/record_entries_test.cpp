@@ -17,8 +17,8 @@ using support::RecordingProgress;
 const char* const kPage = "Cat/Anna's Cat.html";
 
 struct EntryRow {
-    const char* what;
-    access_to::Entry entry;
+    const char* what = nullptr;
+    access_to::Entry entry = nullptr;
     QString styleSheet;
     const char* close = nullptr;
 };
@@ -173,9 +173,9 @@ TEST_F(RecordEntries, FailWithoutATraceWhenTheDirectoryCannotBeMade)
 TEST_F(RecordEntries, ServeTheTypesOfTablesAndOfBookmarks)
 {
     struct {
-        int type;
-        const char* folder;
-        const char* mark; // on this page alone
+        int type = 0;
+        const char* folder = nullptr;
+        const char* mark = nullptr; // on this page alone
     } const rows[] = {
         {3, "Call History", R"(<table id="wrap")"},
         {13, "Viber Call History", R"(<table id="wrap")"},

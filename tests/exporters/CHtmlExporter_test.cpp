@@ -93,7 +93,7 @@ TEST(CHtmlExporter, PutsTheHeadTextBehindTheTitleAsItIs)
 TEST(CHtmlExporter, NamesFileAndTitleAlikeSafelyAndInEnglish)
 {
     struct {
-        const char* what;
+        const char* what = nullptr;
         QString owner;
         QString category;
         QString file;
@@ -176,7 +176,7 @@ TEST(CHtmlExporter, MakesTheDirectoryWithEachKindOfFileAndAgainWhereItIsGone)
     tree.write("DataExport/deleted.png", "x");
     const ResourceRoot root(tree.path());
     struct {
-        const char* what;
+        const char* what = nullptr;
         std::function<void(CHtmlExporter&)> add;
     } const rows[] = {
         {"bytes", [](CHtmlExporter& exporter) { exporter.exportData("x", "file"); }},
@@ -209,6 +209,20 @@ TEST(CHtmlExporter, WritesBytesBesideThePage)
     EXPECT_EQ(tree.read("Notes/image/empty"), "");
     EXPECT_FALSE(exporter.exportData("x", "no/such/folder"));
     EXPECT_FALSE(exporter.exportData("x", QString(300, 'x')));
+}
+
+TEST(CHtmlExporter, DoesNotSeeThatADiskIsFull)
+{
+    const TempTree tree;
+    tree.makeDir("Notes/image");
+    tree.link("Notes/image/full", "/dev/full"); // can be opened, and takes nothing
+    tree.link(kPage, "/dev/full");
+    CHtmlExporter exporter;
+    EXPECT_TRUE(open(exporter, tree));
+    EXPECT_TRUE(exporter.exportData("x", "full"));
+    EXPECT_TRUE(exporter.write(QString(100'000, 'x')));
+    EXPECT_TRUE(exporter.write("y"));
+    EXPECT_TRUE(exporter.closeExport(true));
 }
 
 TEST(CHtmlExporter, SavesAnImageInTheFormatOfItsSuffix)

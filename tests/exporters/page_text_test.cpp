@@ -77,9 +77,9 @@ TEST(PageAdd, FillsEachPlaceWithItsValue)
 TEST(PageAdd, LeavesWhatIsNoPlaceAsItIs)
 {
     struct {
-        const char* what;
+        const char* what = nullptr;
         QLatin1String pattern;
-        const char* text;
+        const char* text = nullptr;
     } const rows[] = {
         {"a place without a value", "%1%3%2"_L1, "A%3B"},
         {"ten is place one and a nought", "%10"_L1, "A0"},
@@ -153,8 +153,8 @@ TEST(PageAdd, TakesNullCharactersAsText)
 TEST(AppendHtmlLines, AddsBehindWhatIsThere)
 {
     struct {
-        const char* text;
-        const char* page;
+        const char* text = nullptr;
+        const char* page = nullptr;
     } const rows[] = {
         {"", "<p>"},
         {"plain", "<p>plain"},

@@ -153,9 +153,9 @@ TEST(BookmarkPage, PassesOverRecordsOfAnotherClass)
 TEST(BookmarkRow, HasACellForEachCase)
 {
     struct {
-        const char* what;
+        const char* what = nullptr;
         Entry entry;
-        const char* cell;
+        const char* cell = nullptr;
     } const rows[] = {
         {"live with a label", {"", {"T", "A", "L"}}, "<td>L: <a href='A'>T</a></td>"},
         {"live without a label keeps its colon and blank", {"", {"T", "A", ""}},
@@ -245,7 +245,7 @@ TEST(BookmarkGroups, OfAFixedPlaceHaveATranslatedLabelThatIsEscaped)
 TEST(BookmarkIcon, IsCopiedOnceAndOnlyForADeletedRecord)
 {
     struct {
-        const char* what;
+        const char* what = nullptr;
         std::vector<Entry> entries;
         QStringList files;
     } const rows[] = {

@@ -153,8 +153,8 @@ TEST(TableHead, GivesEachColumnButTheLastItsShareOfNinetyInWholePercent)
         return cell.repeated(times).toStdString();
     };
     struct {
-        int columns;
-        const char* width;
+        int columns = 0;
+        const char* width = nullptr;
     } const rows[] = {{1, "90"}, {2, "45"}, {3, "30"}, {4, "22"}, {7, "12"}, {46, "1"}, {90, "1"},
         {91, "0"}, {200, "0"}};
     for (const auto& row : rows) {

@@ -14,7 +14,7 @@
 namespace {
 
 struct HostileText {
-    const char* what;
+    const char* what = nullptr;
     QString text;
     QByteArray bytes; // unescaped on the page
     QByteArray html;  // escaped

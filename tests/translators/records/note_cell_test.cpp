@@ -143,8 +143,8 @@ TEST(NotePicture, WithASourceAlwaysHasAThumbnailAndLeadsToTheSource)
 TEST(NotePicture, IsShownAtMost145PixelsWide)
 {
     struct {
-        int width;
-        int height;
+        int width = 0;
+        int height = 0;
         QSize shown;
     } const rows[] = {{1, 10, {1, 10}}, {145, 10, {145, 10}}, {146, 10, {145, 10}},
         {290, 100, {145, 50}}, {1450, 3, {145, 1}}, {5000, 1, {145, 1}}, {100, 5000, {100, 5000}}};
@@ -180,11 +180,11 @@ TEST(NotePicture, OfItsOwnSizeIsNotCopied)
 TEST(NotePicture, TakesItsExtensionFromTheFirstNameThatHasOne)
 {
     struct {
-        const char* what;
-        const char* content;
-        const char* label;
-        const char* source;
-        const char* extension;
+        const char* what = nullptr;
+        const char* content = nullptr;
+        const char* label = nullptr;
+        const char* source = nullptr;
+        const char* extension = nullptr;
     } const rows[] = {
         {"without a source the content", "/n/a.jpg", "b.gif", "", "jpg"},
         {"then the label", "/n/a", "b.gif", "", "gif"},
