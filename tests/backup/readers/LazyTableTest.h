@@ -37,15 +37,19 @@ protected:
         const PRData* set = m_opened->records.getPRData(dataType);
         QStringList shown;
         for (int row = 0; set != nullptr && row < set->count(1); ++row) {
-            PRAbstractItem& item = *set->at(row, true);
+            const PRAbstractItem* item = set->at(row, true);
+            if (item == nullptr) {
+                ADD_FAILURE() << "no record in row " << row;
+                continue;
+            }
             QStringList values;
-            if (const auto* bookmark = dynamic_cast<PRSafariBookmarkItem*>(&item)) {
+            if (const auto* bookmark = dynamic_cast<const PRSafariBookmarkItem*>(item)) {
                 values.append("[" + bookmark->bookmarkGroup() + "]");
             }
-            for (int column = 0; column < item.record().values.size(); ++column) {
-                values.append(set->value(row, column));
+            for (int column = 0; column < item->record().values.size(); ++column) {
+                values.append(item->value(column));
             }
-            shown.append((item.flag(Deleted) ? "x " : "") + values.join(" | "));
+            shown.append((item->flag(Deleted) ? "x " : "") + values.join(" | "));
         }
         return shown;
     }
