@@ -88,7 +88,7 @@ TEST_F(ExportTranscript, OnlyOfACategoryWithoutRecordsWritesNothing)
 TEST_F(ExportTranscript, TakesTheOwnerOfTheCommandLineAsItIs)
 {
     struct Row {
-        const char* what;
+        const char* what = nullptr;
         QStringList options;
         QString file;
     };
@@ -185,10 +185,10 @@ TEST_F(ExportTranscript, AnInterruptKeepsWhatIsWritten)
     const QByteArray wholePage = tree.read("whole/Messages/iPhone's Messages.html");
     const QByteArray wholeCsv = tree.read("whole/Messages/iPhone's Messages.csv");
     struct {
-        int signal;
-        const char* cue; // the first half is the page's, the second the CSV's
-        bool pageIsWhole;
-        bool hasCsv;
+        int signal = 0;
+        const char* cue = nullptr; // the first half is the page's, the second the CSV's
+        bool pageIsWhole = false;
+        bool hasCsv = false;
     } const rows[] = {
         {SIGINT, "Messages: 20 %", false, false},
         {SIGTERM, "Messages: 60 %", true, true},

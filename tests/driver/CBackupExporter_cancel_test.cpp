@@ -12,9 +12,9 @@ namespace {
 using support::RecordingProgress;
 
 struct CancelRow {
-    const char* calls;
-    int pageConversations; // -1: no file
-    int csvRows;           // likewise
+    const char* calls = nullptr;
+    int pageConversations = 0; // -1: no file
+    int csvRows = 0;           // likewise
 };
 
 class Cancel : public DriverTest {

@@ -46,9 +46,9 @@ TEST(ExportTitle, FillsBothPlacesAtOnceAndKeepsWhatFileNamesMayNotHold)
 TEST(StageShare, DividesWholeUnits)
 {
     struct {
-        int range;
-        int stages;
-        int share;
+        int range = 0;
+        int stages = 0;
+        int share = 0;
     } const rows[] = {{200, 2, 100}, {201, 2, 100}, {100, 3, 33}, {1, 2, 0}, {0, 2, 0}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.range);
@@ -202,9 +202,9 @@ TEST_F(ExportSms, ACancelAmongTheConversationsKeepsAClosedPageAndMakesNoCsv)
 {
     const auto set = smsSet(2);
     struct {
-        int cancelAtStep;
+        int cancelAtStep = 0;
         QStringList calls;
-        int conversations;
+        int conversations = 0;
     } const rows[] = {
         {1, {"range", "step 50", "step 50", "step 0"}, 0},
         {2, {"range", "step 50", "step 50", "step 0", "step 0"}, 1},

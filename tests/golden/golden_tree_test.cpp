@@ -51,10 +51,10 @@ TEST(GoldenTree, TheFirstDifferingLineIsShown)
                + QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
     };
     struct {
-        const char* what;
+        const char* what = nullptr;
         QByteArray expected;
         QByteArray actual;
-        const char* difference;
+        const char* difference = nullptr;
     } const rows[] = {
         {"UTF-8", "one\ntwo\nthree\n", "one\ntoo\nthree\n",
             "f: differs at byte 5 (14 bytes expected, 14 written), line 2\n"
@@ -86,9 +86,9 @@ TEST(GoldenTree, APictureThatDiffersIsToldAsAPicture)
 {
     const QByteArray red = pngOf({90, 60}, qRgb(200, 0, 0));
     struct {
-        const char* what;
+        const char* what = nullptr;
         QByteArray actual;
-        const char* difference;
+        const char* difference = nullptr;
     } const rows[] = {
         {"colour", pngOf({90, 60}, qRgb(201, 0, 0)),
             "a.png: shows another picture of the same size"},

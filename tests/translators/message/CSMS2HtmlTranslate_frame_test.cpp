@@ -174,9 +174,9 @@ TEST_F(SmsPageFrame, ImagesThatCannotBeCopiedAreNoFailure)
 TEST_F(SmsPageFrame, TheHeaderOpensThePageWithTheTitle)
 {
     struct {
-        const char* what;
-        const char* title;
-        const char* shown;
+        const char* what = nullptr;
+        const char* title = nullptr;
+        const char* shown = nullptr;
     } const rows[] = {
         {"plain", "Anna's Messages", "Anna's Messages"},
         {"empty", "", ""},

@@ -39,9 +39,9 @@ QString headingOf(const QStringList& values)
 TEST(SmsPageHeading, HasNamePhoneAndEmailEvenWhereTheyAreEmpty)
 {
     struct {
-        const char* what;
+        const char* what = nullptr;
         QStringList values;
-        const char* heading;
+        const char* heading = nullptr;
     } const rows[] = {
         {"all", {"Mia", "+49 171 5550101", "mia@example.org"},
             "Name: Mia&nbsp;&nbsp;Phone: +49 171 5550101&nbsp;&nbsp;Email: mia@example.org"},
@@ -88,7 +88,7 @@ TEST(SmsPageDates, ShowAgainWhereTheTimeDiffersByAnyAmount)
 {
     const QString first = "<p>" + kSmsLine + "<br>Date: 2024-05-01 14:30</p>";
     struct {
-        const char* what;
+        const char* what = nullptr;
         QDateTime date;
         QString line;
     } const rows[] = {
@@ -165,8 +165,8 @@ TEST(SmsPageDates, BeginAnewInEachConversation)
 TEST(SmsPageDates, LabelIsTranslatedWithOneTwoOrNoPlaces)
 {
     struct {
-        const char* label;
-        const char* line;
+        const char* label = nullptr;
+        const char* line = nullptr;
     } const rows[] = {
         {"am %1 um", "am 2024-05-01 14:30 um"},
         {"%1", "2024-05-01 14:30"},
@@ -260,9 +260,9 @@ TEST_F(SmsPageSenders, ShowInAGroupByNameOrByAddress)
 {
     const QMap<QString, QString> names{{"+49", "Mia"}, {"ben@example.org", "<Ben>"}, {"3", ""}};
     struct {
-        const char* what;
-        const char* address;
-        const char* shown;
+        const char* what = nullptr;
+        const char* address = nullptr;
+        const char* shown = nullptr;
     } const rows[] = {
         {"named", "+49", "Mia"},
         {"markup in the name", "ben@example.org", "&lt;Ben&gt;"},

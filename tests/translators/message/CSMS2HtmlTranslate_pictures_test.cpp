@@ -140,9 +140,9 @@ TEST(SmsPagePicture, ComesFromTheFirstPlaceThatHasOne)
     tree.write("thumb.jpg", imageBytes(500, 80));
     const QByteArray data = imageBytes(500, 20);
     struct {
-        const char* what;
+        const char* what = nullptr;
         SmsPiece piece;
-        int height; // 0: none of them
+        int height = 0; // 0: none of them
     } const rows[] = {
         {"bytes before all", {.data = data, .path = file, .preview = preview}, 10},
         {"file", {.data = "text", .path = file, .preview = preview}, 20},
@@ -221,10 +221,10 @@ TEST(SmsPagePicture, NumbersHaveNoLimitOfDigits)
 TEST(SmsPageIcon, IsThatOfTheFirstWordInTheType)
 {
     struct {
-        const char* what;
-        const char* type;
-        bool location;
-        const char* icon; // empty: none
+        const char* what = nullptr;
+        const char* type = nullptr;
+        bool location = false;
+        const char* icon = nullptr; // empty: none
     } const rows[] = {
         {"picture", "image/jpeg", false, "image/picture.png"},
         {"video", "video/quicktime", false, "image/video.png"},

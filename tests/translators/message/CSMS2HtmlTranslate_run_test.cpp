@@ -95,7 +95,7 @@ const QString kHarmless = QString::fromUtf8(
     "&amp;lt; ' <br>\r\u202e\u05e9 \U0001F600");
 
 struct Place {
-    const char* what;
+    const char* what = nullptr;
     std::function<std::unique_ptr<PRSMSItem>(const QString&)> conversation;
 };
 

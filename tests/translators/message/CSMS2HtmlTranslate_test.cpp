@@ -139,7 +139,7 @@ TEST(SmsPageBubble, EachBubbleOfAFailedMessageIsMarked)
 TEST(SmsPageText, IsEscapedWithItsLinesKept)
 {
     struct {
-        const char* what;
+        const char* what = nullptr;
         QString text;
         QString shown;
     } const rows[] = {
@@ -165,7 +165,7 @@ TEST(SmsPageSubject, LeadsTheFirstBubbleAndNoOther)
     const PRSMSPiece file = pictureless("file");
     const PRSMSPiece nothing = pictureless("");
     struct {
-        const char* what;
+        const char* what = nullptr;
         SmsMessage message;
         QStringList bubbles;
     } const rows[] = {
@@ -218,7 +218,7 @@ TEST(SmsPageSubject, OfOneMessageDoesNotReachTheNext)
 TEST(SmsPagePieces, AreTextByAPlainTextInTheirType)
 {
     struct {
-        const char* what;
+        const char* what = nullptr;
         PRSMSPiece piece;
         QStringList bubbles;
     } const rows[] = {
