@@ -52,7 +52,8 @@ constexpr QLatin1String kTextColours = R"(
 )"_page;
 
 constexpr QLatin1String kConversationOpen = R"(<div class="main">)"_L1;
-constexpr QLatin1String kDate = "<p>%1%2</p>"_L1;
+constexpr QLatin1String kDateOpen = "<p>%1%2"_L1;
+constexpr QLatin1String kDateClose = "</p>"_L1;
 constexpr QLatin1String kEvent = R"(<p class="event-msg">%1</p>)"_L1;
 constexpr QLatin1String kSender = R"(<p class="cid">%1</p>)"_L1;
 constexpr QLatin1String kPictureRow = R"(
@@ -91,19 +92,30 @@ public:
         m_lastDate = date;
         m_lastNormal = message.isNormalSMS();
         if (dateChanged || kindChanged) {
-            page.add(kDate, kindChanged ? kindLine(*m_lastNormal) : QString(),
-                escaped(m_label.arg(CCommonUtils::datetimeToMinute(date, true))));
+            page.add(kDateOpen, kindChanged ? kindLine(*m_lastNormal) : QString(),
+                escaped(m_label.first()));
+            drawDate(page, CCommonUtils::datetimeToMinute(date, true));
+            page.add(kDateClose);
         }
     }
 
 private:
+    // The label is cut at its places once: there are as many dates as messages.
+    void drawDate(Page& page, const QString& date) const
+    {
+        for (int i = 1; i < m_label.size(); ++i) {
+            page.add("%1%2"_L1, date, escaped(m_label.at(i)));
+        }
+    }
+
     QString kindLine(bool normal) const
     {
         return m_hyphens + (normal ? "SMS/MMS"_L1 : "iMessage"_L1) + m_hyphens + "<br>"_L1;
     }
 
     const QString m_hyphens = QString(55, QChar(u'-'));
-    const QString m_label = label(QT_TRANSLATE_NOOP("DataExport", "Date: %1"));
+    const QStringList m_label =
+        label(QT_TRANSLATE_NOOP("DataExport", "Date: %1")).split(QStringLiteral("%1"));
     QDateTime m_lastDate;
     std::optional<bool> m_lastNormal;
 };
