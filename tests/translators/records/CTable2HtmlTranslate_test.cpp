@@ -306,6 +306,8 @@ TEST(TableIcons, AreCopiedOnceForTheFirstRowThatAsks)
 
 TEST(TableIcons, OfASecondLockedDeletedRecordBringTheLockOfALiveOne)
 {
+    EXPECT_EQ(filesOf(record({}, Deleted | Locked), record({}, Deleted | Locked)),
+        resources({"deleted.png", "crypteddeleted.png", "crypted.png"}));
     EXPECT_EQ(filesOf(record({}, Deleted | Locked), record({}, Deleted | Locked),
                   record({}, Deleted | Locked), record({}, Locked)),
         resources({"deleted.png", "crypteddeleted.png", "crypted.png"}));
