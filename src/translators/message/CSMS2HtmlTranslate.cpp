@@ -13,6 +13,7 @@
 #include "translators/message/CSMS2HtmlTranslate.h"
 
 #include "exporters/CIDataExporter.h"
+#include "exporters/page_images.h"
 #include "exporters/page_text.h"
 #include "model/PRSMSItem.h"
 #include "platform/CCommonUtils.h"

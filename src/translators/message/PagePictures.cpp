@@ -2,9 +2,8 @@
 #include "translators/message/PagePictures.h"
 
 #include "exporters/CIDataExporter.h"
-#include "translators/message/bubble.h"
+#include "exporters/page_images.h"
 
-#include <QBuffer>
 #include <QImage>
 
 namespace {
@@ -30,13 +29,4 @@ QImage fitted(const QImage& picture)
 {
     return picture.scaled(
         kLargestSide, kLargestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-}
-
-QByteArray pngOf(const QImage& picture)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    picture.save(&buffer, "PNG");
-    return bytes;
 }

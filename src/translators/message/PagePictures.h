@@ -24,4 +24,3 @@ private:
 bool isTooLarge(const QImage& picture);
 /// The picture, made to fit a square of 250 pixels.
 QImage fitted(const QImage& picture);
-QByteArray pngOf(const QImage& picture);

@@ -14,8 +14,8 @@
 #include "translators/message/bubble.h"
 
 #include "exporters/CHtmlExporter.h"
+#include "exporters/page_images.h"
 #include "exporters/page_text.h"
-#include "platform/OvProductInfo.h"
 #include "platform/OvResourceMgr.h"
 
 namespace {
@@ -136,13 +136,6 @@ void copyPageImage(CIDataExporter& exporter, const QString& name)
     exporter.copyDepend(source, name); // a missing image is no failure
 }
 
-QString brandImageSource(const QString& name)
-{
-    return QStringLiteral("%1/DataExport/%2/%3")
-        .arg(OvResourceMgr::instance()->productResourceRoot(), OvProductInfo::instance()->brand(),
-            name);
-}
-
 void copyBrandImage(CIDataExporter& exporter, const QString& name)
 {
     exporter.copyDepend(brandImageSource(name), name); // as above
@@ -194,9 +187,4 @@ void drawFailureCell(Page& page, const BubbleLook& look)
     } else {
         page.add(kNoFailureCell);
     }
-}
-
-QString imagePath(const QString& name)
-{
-    return kImageDirectory + QChar(u'/') + name;
 }

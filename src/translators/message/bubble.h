@@ -54,9 +54,5 @@ void copySkin(CIDataExporter& exporter, const BubbleSkin& skin);
 
 /// Copies an image of the resources beside the page. A missing one is no failure.
 void copyPageImage(CIDataExporter& exporter, const QString& name);
-/// The same for one of those that differ by brand, and where that one lies.
+/// The same for one of those that differ by brand.
 void copyBrandImage(CIDataExporter& exporter, const QString& name);
-QString brandImageSource(const QString& name);
-
-/// "image/picture.png", as pages link to it.
-QString imagePath(const QString& name);
