@@ -269,8 +269,7 @@ NoteStretch NoteStore::insertion(qint64 note, const QJsonObject& line)
 // Gives the identifier of what has been made of the line.
 QString NoteStore::attachment(qint64 note, const QJsonObject& line)
 {
-    const QString identifier =
-        uuidFor(QString("%1 attachment %2").arg(m_noteName).arg(++m_inserted));
+    QString identifier = uuidFor(QString("%1 attachment %2").arg(m_noteName).arg(++m_inserted));
     Database::Row row{{"ZNOTE", note}, {"ZCREATIONDATE", m_changed},
         {"ZMODIFICATIONDATE", m_changed},
         {"ZTITLE", line["title"].toString(line["name"].toString())}};

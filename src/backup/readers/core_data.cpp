@@ -45,7 +45,7 @@ QString TableColumns::firstOf(
     QStringList present;
     for (const QLatin1String name : names) {
         if (has(name)) {
-            present.append(QStringLiteral("nullif(%1.%2,0)").arg(alias, name));
+            present.append("nullif("_L1 + alias + QChar(u'.') + name + ",0)"_L1);
         }
     }
     if (present.isEmpty()) {
