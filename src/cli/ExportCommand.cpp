@@ -24,7 +24,9 @@
 
 namespace {
 
-constexpr int kNotes = 27; // data type
+// Data types.
+constexpr int kContacts = 2;
+constexpr int kNotes = 27;
 
 QString counted(int count, QLatin1String noun)
 {
@@ -44,6 +46,14 @@ std::vector<ProgressStage> stagesOf(const ExportPlan& plan, const PRBackup& reco
 QString categoryFolder(const QString& target, int dataType)
 {
     return QDir(target).filePath(PRBackup::dataTypeName(dataType));
+}
+
+// The library takes away the folder of a category that failed, or could not make it. The files for
+// other address books are written all the same: there the folder of the page tells.
+bool wasWritten(const QString& target, int dataType)
+{
+    const QDir folder(categoryFolder(target, dataType));
+    return dataType == kContacts ? folder.exists("HTML"_L1) : folder.exists();
 }
 
 } // namespace
@@ -213,8 +223,8 @@ int ExportCommand::tellResult(
     int total = 0;
     for (const int dataType : plan.written) {
         const QString folder = categoryFolder(request.target, dataType);
-        if (!QFileInfo(folder).isDir()) {
-            failed.append(dataType); // the library has taken its folder away, or could not make it
+        if (!wasWritten(request.target, dataType)) {
+            failed.append(dataType);
             continue;
         }
         const int count = records.getPRData(dataType)->recoverCount();

@@ -170,6 +170,36 @@ TEST_F(ExportTranscript, NamesACategoryThatFailed)
     EXPECT_EQ(exported.status, SomethingFailed);
 }
 
+constexpr const char* kTwoContacts = R"({"recordSet": 1, "owner": "Anna", "sets": [
+    {"dataType": 2, "records": [
+        {"kind": "contact", "values": ["Mia"], "firstName": "Mia"},
+        {"kind": "contact", "values": ["Ben"], "firstName": "Ben", "properties": [
+            {"type": 13, "entry": {"service": "SKYPE", "username": "ben"}}]}]}]})";
+
+TEST_F(ExportTranscript, WritesContactsInBothForms)
+{
+    tree.write("contacts.json", kTwoContacts);
+    const QString csv = "Contacts/CSV/Anna's Contacts in common use.csv";
+    const Outcome general = run({"export", "contacts.json", "out"});
+    EXPECT_EQ(
+        withoutSeconds(general.output), "Contacts  2  out/Contacts\nExported 2 records in N s\n");
+    EXPECT_EQ(general.status, AllDone);
+    EXPECT_TRUE(tree.read("out/" + csv).contains(R"("Skype","ben",)"));
+    EXPECT_EQ(run({"export", "--tavero", "contacts.json", "tavero"}).status, AllDone);
+    EXPECT_TRUE(tree.read("tavero/" + csv).contains(R"(,"skype","ben")"));
+    EXPECT_TRUE(tree.read("tavero/Contacts/VCF/Ben.vcf").contains("X-IM"));
+}
+
+// The files for other address books are there all the same.
+TEST_F(ExportTranscript, NamesContactsThatFailed)
+{
+    tree.write("contacts.json", kTwoContacts);
+    const QString owner(228, 'x'); // too long for the name of the CSV file alone
+    const Outcome exported = run({"export", "--quiet", "--owner", owner, "contacts.json", "out"});
+    EXPECT_EQ(exported.errors, "dataexport: could not be written: Contacts\n");
+    EXPECT_EQ(exported.status, SomethingFailed);
+}
+
 TEST_F(ExportTranscript, DumpWritesARecordSetThatIsASource)
 {
     const Outcome dumped = run({"dump", "anna.json", "copy.json"});
