@@ -152,7 +152,7 @@ Result<Database> Database::open(const QString& path, OpenMode mode)
     }
     sqlite3* handle = nullptr;
     const int flags =
-        SQLITE_OPEN_URI
+        SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX // one thread reads a database
         | (mode == OpenMode::Immutable ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE);
     const int code =
         sqlite3_open_v2(uriOf(file.absoluteFilePath(), mode).constData(), &handle, flags, nullptr);

@@ -74,7 +74,7 @@ enum class OpenMode {
 };
 
 /// A SQLite database of a backup. Its schema is not trusted: no function of it runs by itself, and
-/// its views and triggers are out of use.
+/// its views and triggers are out of use. An object belongs to one thread at a time.
 class Database {
 public:
     /// The error names `path`.
