@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/PRData.h"
 #include "model/PRNoteItem.h"
-#include "recording_page.h"
+#include "support/recording_page.h"
 #include "support/recording_progress.h"
 #include "translators/records/CTable2HtmlTranslate.h"
 

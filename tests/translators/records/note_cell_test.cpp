@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "exporters/page_text.h"
 #include "model/PRNoteItem.h"
-#include "recording_page.h"
+#include "support/recording_page.h"
 #include "support/temp_tree.h"
 #include "translators/records/note_cell.h"
 

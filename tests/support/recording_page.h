@@ -32,6 +32,13 @@ public:
         return false;
     }
 
+    bool exportData(const QByteArray& data, const QString& name) override
+    {
+        files.append("export " + name);
+        exported.append(data);
+        return false;
+    }
+
     bool saveImage(const QImage& image, const QString& name) override
     {
         files.append(
@@ -45,6 +52,7 @@ public:
     QStringList writes;
     QStringList files;
     QList<QImage> images;
+    QList<QByteArray> exported;
 
 private:
     int m_failingWrite;
