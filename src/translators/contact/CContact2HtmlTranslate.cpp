@@ -71,7 +71,7 @@ private:
         if (hasBirthday) {
             addCardRow(m_page, hasAlternative ? CardRow::Inner : CardRow::Last,
                 m_helper.convertLabel(CContactHelper::PROP_KEY_BIRTHDAY, true),
-                dateText(m_contact.birthday, nullptr));
+                dateText(m_contact.birthday));
         }
         if (hasAlternative) {
             addCardRow(m_page, CardRow::Last, m_contact.getAltBirthdayLabel(),

@@ -64,7 +64,7 @@ void addTexts(VCard& card, const QString& displayName, const PRContactPrivate& c
     addText(card, "ORG"_L1, joinFilled({contact.organization, contact.department}, ";"_L1));
     addText(card, "NICKNAME"_L1, contact.nickname);
     if (!contact.birthday.isEmpty()) {
-        card.addLine("BDAY"_L1, kCharset, dateText(contact.birthday, nullptr));
+        card.addLine("BDAY"_L1, kCharset, dateText(contact.birthday));
     }
     // Its line feeds stay, and break the line.
     addText(card, "NOTE"_L1, contact.note);

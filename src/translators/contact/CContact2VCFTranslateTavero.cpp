@@ -35,7 +35,6 @@
 
 namespace {
 
-constexpr const char* kDay = "yyyy-MM-dd";
 constexpr QLatin1String kQuotedPrintable = ";ENCODING=QUOTED-PRINTABLE"_L1;
 
 // Commas and line feeds stay.
@@ -84,7 +83,7 @@ QString messengerValue(const PRContactProperty& messenger)
 
 QString dayValue(const PRContactProperty& date)
 {
-    return dateText(date.propValue(), kDay);
+    return dayText(date.propValue());
 }
 
 // The lines of a kind of properties.
@@ -138,7 +137,7 @@ private:
         }
         addText("TITLE"_L1, m_contact.jobTitle);
         if (!m_contact.birthday.isEmpty()) {
-            m_card.addLine("BDAY"_L1, m_valueBegin, dateText(m_contact.birthday, kDay));
+            m_card.addLine("BDAY"_L1, m_valueBegin, dayText(m_contact.birthday));
         }
         addPlaces("ORG"_L1, {m_contact.organization, m_contact.department});
     }

@@ -1,22 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "translators/contact/contact_cells.h"
 
-#include "platform/CCommonUtils.h"
-
-namespace {
-
-// What is no number counts as 0 seconds: the start of 2001.
-QString dayOf(const QString& secondsSince2001)
-{
-    return CContactHelper::getDateDesc(
-        CCommonUtils::buildDateTimeBase2001(secondsSince2001.toDouble()), "yyyy-MM-dd");
-}
-
-} // namespace
+#include "translators/contact/contact_contents.h"
 
 QString birthdayCell(CContactHelper& /*helper*/, const PRContactPrivate& contact)
 {
-    return contact.birthday.isEmpty() ? QString() : dayOf(contact.birthday);
+    return contact.birthday.isEmpty() ? QString() : dayText(contact.birthday);
 }
 
 QString labelCell(CContactHelper& helper, const PRContactProperty& property)
@@ -31,7 +20,7 @@ QString valueCell(CContactHelper& /*helper*/, const PRContactProperty& property)
 
 QString dayCell(CContactHelper& /*helper*/, const PRContactProperty& property)
 {
-    return dayOf(property.propValue());
+    return dayText(property.propValue());
 }
 
 QString lineCell(CContactHelper& helper, const PRContactProperty& property, const QString& key)

@@ -7,6 +7,15 @@
 #include <algorithm>
 #include <iterator>
 
+namespace {
+
+QDateTime dateOf(const QString& secondsSince2001)
+{
+    return CCommonUtils::buildDateTimeBase2001(secondsSince2001.toDouble());
+}
+
+} // namespace
+
 QVector<const PRContactProperty*> propertiesOf(const PRContactPrivate& contact, PropType type)
 {
     QVector<const PRContactProperty*> found;
@@ -31,8 +40,12 @@ QString joinFilled(std::initializer_list<QString> texts, QLatin1String joiner)
     return joined;
 }
 
-QString dateText(const QString& secondsSince2001, const char* format)
+QString dateText(const QString& secondsSince2001)
 {
-    return CContactHelper::getDateDesc(
-        CCommonUtils::buildDateTimeBase2001(secondsSince2001.toDouble()), format);
+    return CContactHelper::getDateDesc(dateOf(secondsSince2001), nullptr);
+}
+
+QString dayText(const QString& secondsSince2001)
+{
+    return CContactHelper::getDateDesc(dateOf(secondsSince2001), "yyyy-MM-dd");
 }

@@ -17,6 +17,7 @@ QVector<const PRContactProperty*> propertiesOf(const PRContactPrivate& contact, 
 /// Those of the texts that are not empty, with `joiner` between them.
 QString joinFilled(std::initializer_list<QString> texts, QLatin1String joiner);
 
-/// A date of a contact, by `format` or, if that is null, as pages show it. What is no number counts
-/// as 0 seconds.
-QString dateText(const QString& secondsSince2001, const char* format);
+/// A date of a contact as pages show it. What is no number counts as 0 seconds.
+QString dateText(const QString& secondsSince2001);
+/// The same for other programs: "1985-04-12".
+QString dayText(const QString& secondsSince2001);
