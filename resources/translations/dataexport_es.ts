@@ -804,4 +804,33 @@
         <translation>la base de datos está dañada</translation>
     </message>
 </context>
+<context>
+    <name>ExportCSVFile_Google</name>
+    <message>
+        <source>for Google</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for Google&quot;.</extracomment>
+        <translation>para Google</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCSVFile_Outlook</name>
+    <message>
+        <source>for Outlook</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for Outlook&quot;.</extracomment>
+        <translation>para Outlook</translation>
+    </message>
+</context>
+<context>
+    <name>ExportVCFFile</name>
+    <message>
+        <source>for iCloud</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for iCloud&quot;.</extracomment>
+        <translation>para iCloud</translation>
+    </message>
+    <message>
+        <source>for Mac</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for Mac&quot;.</extracomment>
+        <translation>para Mac</translation>
+    </message>
+</context>
 </TS>

@@ -804,4 +804,33 @@
         <translation>データベースが破損しています</translation>
     </message>
 </context>
+<context>
+    <name>ExportCSVFile_Google</name>
+    <message>
+        <source>for Google</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for Google&quot;.</extracomment>
+        <translation>Google 用</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCSVFile_Outlook</name>
+    <message>
+        <source>for Outlook</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for Outlook&quot;.</extracomment>
+        <translation>Outlook 用</translation>
+    </message>
+</context>
+<context>
+    <name>ExportVCFFile</name>
+    <message>
+        <source>for iCloud</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for iCloud&quot;.</extracomment>
+        <translation>iCloud 用</translation>
+    </message>
+    <message>
+        <source>for Mac</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for Mac&quot;.</extracomment>
+        <translation>Mac 用</translation>
+    </message>
+</context>
 </TS>

@@ -804,4 +804,33 @@
         <translation>데이터베이스가 손상되었습니다</translation>
     </message>
 </context>
+<context>
+    <name>ExportCSVFile_Google</name>
+    <message>
+        <source>for Google</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for Google&quot;.</extracomment>
+        <translation>Google용</translation>
+    </message>
+</context>
+<context>
+    <name>ExportCSVFile_Outlook</name>
+    <message>
+        <source>for Outlook</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for Outlook&quot;.</extracomment>
+        <translation>Outlook용</translation>
+    </message>
+</context>
+<context>
+    <name>ExportVCFFile</name>
+    <message>
+        <source>for iCloud</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for iCloud&quot;.</extracomment>
+        <translation>iCloud용</translation>
+    </message>
+    <message>
+        <source>for Mac</source>
+        <extracomment>End of a file name: &quot;Anna&apos;s Contacts for Mac&quot;.</extracomment>
+        <translation>Mac용</translation>
+    </message>
+</context>
 </TS>

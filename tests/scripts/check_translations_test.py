@@ -25,11 +25,14 @@ def load():
     return module
 
 
-def catalogue(language, texts, kind=""):
+PAGE_HEADER = "class LIB_EXPORT Page : public QObject {\n    Q_OBJECT\n\npublic:\n};\n"
+
+
+def catalogue(language, texts, kind="", context="DataExport"):
     messages = "".join(
         f"<message><source>{escape(source)}</source><translation{kind}>{escape(text)}</translation></message>"
         for source, text in texts.items())
-    return f'<TS version="2.1" language="{language}"><context><name>DataExport</name>{messages}</context></TS>'
+    return f'<TS version="2.1" language="{language}"><context><name>{context}</name>{messages}</context></TS>'
 
 
 class CheckTranslations(unittest.TestCase):
@@ -146,6 +149,28 @@ class CheckTranslations(unittest.TestCase):
         other = catalogue("de", GERMAN) .replace("</TS>", "<context><name>Page</name></context></TS>")
         self.write("resources/translations/dataexport_de.ts", other)
         self.assert_one_finding("'Page'")
+
+    def test_a_class_with_a_context_of_its_own(self):
+        self.write("src/model/Page.h", PAGE_HEADER)
+        self.write("src/model/Page.cpp", 'QString Page::name() { return tr("for a page"); }\n')
+        found = self.findings()
+        self.assertEqual(len(found), 2, found) # once for each catalogue
+        for part in ("dataexport_de.ts", "'for a page'", "'Page'", "src/model/Page.cpp"):
+            self.assertIn(part, found[0])
+        for language, texts in (("de", GERMAN), ("fr", FRENCH)):
+            own = catalogue(language, {"for a page": "(page)"}, context="Page")
+            context = own[own.index("<context>"):]
+            self.write(f"resources/translations/dataexport_{language}.ts",
+                catalogue(language, texts).replace("</TS>", context))
+        self.assertEqual(self.findings(), [])
+
+    def test_a_text_of_a_class_is_not_that_of_the_common_context(self):
+        self.write("src/model/tr.h", HELPER)
+        self.write("src/model/Page.h", PAGE_HEADER)
+        self.write("src/model/Page.cpp", 'QString Page::name() { return tr("for a page"); }\n')
+        self.give("de", GERMAN | {"for a page": "(Seite)"})
+        self.give("fr", FRENCH | {"for a page": "(page)"})
+        self.assertEqual(len(self.findings()), 2)
 
     def test_a_tree_without_texts_or_catalogues_is_a_finding(self):
         with tempfile.TemporaryDirectory() as empty:
