@@ -4,6 +4,9 @@
 #include "driver/stage.h"
 #include "exporters/CHtmlExporter.h"
 #include "exporters/CPlainFileExporter.h"
+#include "interchange/ExportCSVFile_Google.h"
+#include "interchange/ExportCSVFile_Outlook.h"
+#include "interchange/ExportVCFFile.h"
 #include "model/CSubProgress.h"
 #include "model/PRData.h"
 #include "platform/literals.h"
@@ -77,6 +80,18 @@ bool writeCards(const ContactExport& run, bool forTavero)
     return writeText(run, exporter, "VCF"_L1, translator);
 }
 
+// The files for other address books. They make their folders anew, and whether they could be
+// written says nothing of the category.
+void writeInterchange(const ContactExport& run)
+{
+    ExportVCFFile cards(nullptr);
+    cards.exportContacts(run.contacts, run.dir, run.ownerName, run.categoryName);
+    ExportCSVFile_Google google(nullptr);
+    google.exportContacts(run.contacts, run.dir, run.ownerName, run.categoryName);
+    ExportCSVFile_Outlook outlook(nullptr);
+    outlook.exportContacts(run.contacts, run.dir, run.ownerName, run.categoryName);
+}
+
 } // namespace
 
 bool CBackupExporter::exportContact(PRData* data, const QDir& dir, const QString& ownerName,
@@ -104,6 +119,7 @@ bool CBackupExporter::exportContact(PRData* data, const QDir& dir, const QString
     if (goesOn) {
         written = writeCards(run, forTavero);
     }
-    sub.finish(); // a cancel shows at the driver's own scale
+    sub.finish();          // a cancel shows at the driver's own scale
+    writeInterchange(run); // also after a failure or a cancel
     return written;
 }
