@@ -2,7 +2,10 @@
 // A case is a folder of cases/: records.json, options.json if any, and expected/, the whole tree
 // that the export has to write. Each is a test of its own name, Golden.<folder>.
 //
-//   options.json   {"owner": "Anna", "only": [0, 2]}    both optional
+//   options.json   {"owner": "Anna", "only": [0, 2], "tavero": true, "records": "contacts"}
+//
+// All of them are optional; "records" names the case whose records.json is read in place of its
+// own.
 //
 // For some images of the product there are stand-ins in resources/, so that a tree shows which of
 // them were copied; the others are missing.
@@ -35,6 +38,8 @@ namespace {
 struct Options {
     std::optional<QString> owner; // else that of the records
     QVector<int> only;
+    bool tavero = false;
+    QString records; // of this case; empty: its own
 };
 
 Options allTypes()
@@ -49,6 +54,14 @@ bool setOption(Options& options, const QString& key, const QJsonValue& value)
 {
     if (key == "owner" && value.isString()) {
         options.owner = value.toString();
+        return true;
+    }
+    if (key == "tavero" && value.isBool()) {
+        options.tavero = value.toBool();
+        return true;
+    }
+    if (key == "records" && value.isString()) {
+        options.records = value.toString();
         return true;
     }
     if (key == "only" && value.isArray()) {
@@ -93,12 +106,16 @@ public:
 
     void TestBody() override
     {
-        auto loaded = recordset::load(m_directory + "/records.json");
-        ASSERT_TRUE(loaded.has_value()) << loaded.error().text().toStdString();
         const Options options = readOptions(m_directory + "/options.json");
+        const QString source =
+            options.records.isEmpty() ? m_directory : m_directory + "/../" + options.records;
+        auto loaded = recordset::load(source + "/records.json");
+        ASSERT_TRUE(loaded.has_value()) << loaded.error().text().toStdString();
         const QTemporaryDir output;
-        CBackupExporter().exportBackup(&loaded->records, QDir(output.path()), nullptr, options.only,
-            false, options.owner.value_or(loaded->owner));
+        CBackupExporter exporter;
+        exporter.setExportContactForTavero(options.tavero);
+        exporter.exportBackup(&loaded->records, QDir(output.path()), nullptr, options.only, false,
+            options.owner.value_or(loaded->owner));
         compare(golden::readTree(output.path()));
     }
 
