@@ -216,7 +216,7 @@ void ConversationRowsCache::scan()
         }
         m_scan = Scan::Kept;
     } else {
-        m_spill.emplace(m_batchBegins.size());
+        m_spill.emplace(m_batchBegins.size(), m_conversations.size());
         m_scan = Scan::Spilled;
     }
     scanTable();
@@ -262,13 +262,7 @@ bool ConversationRowsCache::loadBatchOf(std::size_t index)
     }
     const std::size_t batch = m_batchOf[index];
     enterBatch(batch);
-    const bool complete = m_spill->read(batch, [this](std::int32_t conversation,
-                                                   const MessageRow& row, std::string_view text) {
-        ConversationRows& into = m_batch[static_cast<std::size_t>(conversation) - m_batchOffset];
-        into.rows.push_back(row);
-        into.rows.back().textStart = static_cast<std::uint32_t>(into.text.size());
-        into.text.append(text.substr(0, row.subjectSize + row.textSize));
-    });
+    const bool complete = m_spill->read(batch, m_batch, m_batchOffset);
     if (!complete) {
         m_batch.clear();
     }

@@ -7,6 +7,7 @@
 //   char[text]           UTF-8
 #include "backup/readers/RowSpill.h"
 
+#include <string_view>
 #include <type_traits>
 
 namespace backup {
@@ -36,9 +37,23 @@ template <typename T> bool readAll(QTemporaryFile& file, T* values, std::size_t 
     return file.read(reinterpret_cast<char*>(values), size) == size;
 }
 
+// The bytes of a row's subject and text.
+std::size_t textSize(const MessageRow& row)
+{
+    return std::size_t(row.subjectSize) + row.textSize;
+}
+
+void append(ConversationRows& conversation, const MessageRow& row, std::string_view text)
+{
+    conversation.rows.push_back(row);
+    conversation.rows.back().textStart = static_cast<std::uint32_t>(conversation.text.size());
+    conversation.text.append(text.substr(row.textStart, textSize(row)));
+}
+
 } // namespace
 
-RowSpill::RowSpill(std::size_t batches) : m_batches(batches)
+RowSpill::RowSpill(std::size_t batches, std::size_t conversations)
+    : m_batches(batches), m_sizes(conversations)
 {
 }
 
@@ -51,7 +66,11 @@ MessageRow& RowSpill::add(
     }
     into.conversations.push_back(conversation);
     MessageTable::append(query, into.pending);
-    return into.pending.rows.back();
+    MessageRow& row = into.pending.rows.back();
+    Size& size = m_sizes[static_cast<std::size_t>(conversation)];
+    ++size.rows;
+    size.text += textSize(row);
+    return row;
 }
 
 bool RowSpill::finish()
@@ -85,7 +104,7 @@ void RowSpill::flush(Batch& batch)
     block.text.clear();
 }
 
-bool RowSpill::read(std::size_t batch, const Use& use)
+bool RowSpill::read(std::size_t batch, std::vector<ConversationRows>& into, std::size_t first)
 {
     Batch& from = m_batches[batch];
     if (from.file == nullptr) {
@@ -94,6 +113,10 @@ bool RowSpill::read(std::size_t batch, const Use& use)
     QTemporaryFile& file = *from.file;
     if (!file.seek(0)) {
         return false;
+    }
+    for (std::size_t i = 0; i < into.size(); ++i) {
+        into[i].rows.reserve(m_sizes[first + i].rows);
+        into[i].text.reserve(m_sizes[first + i].text);
     }
     ConversationRows block;
     std::vector<std::int32_t> conversations;
@@ -111,8 +134,8 @@ bool RowSpill::read(std::size_t batch, const Use& use)
             return false;
         }
         for (std::size_t i = 0; i < block.rows.size(); ++i) {
-            use(conversations[i], block.rows[i],
-                std::string_view(block.text).substr(block.rows[i].textStart));
+            append(into[static_cast<std::size_t>(conversations[i]) - first], block.rows[i],
+                block.text);
         }
     }
     return true;

@@ -6,9 +6,7 @@
 #include <QTemporaryFile>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
-#include <string_view>
 #include <vector>
 
 namespace backup {
@@ -18,20 +16,22 @@ namespace backup {
 /// name and are gone with the object.
 class RowSpill {
 public:
-    explicit RowSpill(std::size_t batches);
+    RowSpill(std::size_t batches, std::size_t conversations);
 
     /// Adds the current row of a query of `MessageTable`. The result holds until the next call.
     MessageRow& add(std::size_t batch, std::int32_t conversation, const formats::Statement& query);
     /// Ends the writing. False where the disk did not take all of it: then nothing is to be read.
     bool finish();
 
-    /// A row, with its subject and text at the start of `text`.
-    using Use = std::function<void(
-        std::int32_t conversation, const MessageRow& row, std::string_view text)>;
-    /// All rows of a batch, in the order in which they came. False where they cannot be read.
-    bool read(std::size_t batch, const Use& use);
+    /// Hands the rows of a batch out to its conversations, of which `into` begins with number
+    /// `first`, in the order in which they came. False where they cannot be read.
+    bool read(std::size_t batch, std::vector<ConversationRows>& into, std::size_t first);
 
 private:
+    struct Size {
+        std::size_t rows = 0;
+        std::size_t text = 0; // bytes
+    };
     struct Batch {
         std::unique_ptr<QTemporaryFile> file; // made when the first block is full
         std::vector<std::int32_t> conversations;
@@ -40,6 +40,7 @@ private:
     void flush(Batch& batch);
 
     std::vector<Batch> m_batches;
+    std::vector<Size> m_sizes; // by conversation
     bool m_complete = true;
 };
 
