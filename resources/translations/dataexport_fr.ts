@@ -803,6 +803,36 @@
         <extracomment>A reason, after a colon.</extracomment>
         <translation>la base de données est endommagée</translation>
     </message>
+    <message>
+        <source>No Name</source>
+        <extracomment>Stands for the name of a contact that has none.</extracomment>
+        <translation>Sans nom</translation>
+    </message>
+    <message>
+        <source>Chinese birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>anniversaire (chinois)</translation>
+    </message>
+    <message>
+        <source>Hebrew birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>anniversaire (hébraïque)</translation>
+    </message>
+    <message>
+        <source>Islamic birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>anniversaire (islamique)</translation>
+    </message>
+    <message>
+        <source>Month %1, day %2</source>
+        <extracomment>A day of the Chinese calendar; the year may follow after a comma.</extracomment>
+        <translation>mois %1, jour %2</translation>
+    </message>
+    <message>
+        <source>Leap month %1, day %2</source>
+        <extracomment>A day of the Chinese calendar, in a month that comes twice in its year.</extracomment>
+        <translation>mois intercalaire %1, jour %2</translation>
+    </message>
 </context>
 <context>
     <name>ExportCSVFile_Google</name>

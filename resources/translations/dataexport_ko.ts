@@ -803,6 +803,36 @@
         <extracomment>A reason, after a colon.</extracomment>
         <translation>데이터베이스가 손상되었습니다</translation>
     </message>
+    <message>
+        <source>No Name</source>
+        <extracomment>Stands for the name of a contact that has none.</extracomment>
+        <translation>이름 없음</translation>
+    </message>
+    <message>
+        <source>Chinese birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>생일(중국력)</translation>
+    </message>
+    <message>
+        <source>Hebrew birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>생일(히브리력)</translation>
+    </message>
+    <message>
+        <source>Islamic birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>생일(이슬람력)</translation>
+    </message>
+    <message>
+        <source>Month %1, day %2</source>
+        <extracomment>A day of the Chinese calendar; the year may follow after a comma.</extracomment>
+        <translation>%1월 %2일</translation>
+    </message>
+    <message>
+        <source>Leap month %1, day %2</source>
+        <extracomment>A day of the Chinese calendar, in a month that comes twice in its year.</extracomment>
+        <translation>윤%1월 %2일</translation>
+    </message>
 </context>
 <context>
     <name>ExportCSVFile_Google</name>

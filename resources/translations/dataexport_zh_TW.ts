@@ -803,6 +803,36 @@
         <extracomment>A reason, after a colon.</extracomment>
         <translation>資料庫已損毀</translation>
     </message>
+    <message>
+        <source>No Name</source>
+        <extracomment>Stands for the name of a contact that has none.</extracomment>
+        <translation>無姓名</translation>
+    </message>
+    <message>
+        <source>Chinese birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>農曆生日</translation>
+    </message>
+    <message>
+        <source>Hebrew birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>希伯來曆生日</translation>
+    </message>
+    <message>
+        <source>Islamic birthday</source>
+        <extracomment>Label of a date.</extracomment>
+        <translation>伊斯蘭曆生日</translation>
+    </message>
+    <message>
+        <source>Month %1, day %2</source>
+        <extracomment>A day of the Chinese calendar; the year may follow after a comma.</extracomment>
+        <translation>%1月%2日</translation>
+    </message>
+    <message>
+        <source>Leap month %1, day %2</source>
+        <extracomment>A day of the Chinese calendar, in a month that comes twice in its year.</extracomment>
+        <translation>閏%1月%2日</translation>
+    </message>
 </context>
 <context>
     <name>ExportCSVFile_Google</name>

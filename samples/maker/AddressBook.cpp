@@ -3,12 +3,17 @@
 
 #include "common.h"
 #include "media.h"
+#include "pictures.h"
+#include "plist_writer.h"
 
-#include <QJsonArray>
 #include <QJsonValue>
+#include <QRegularExpression>
+#include <QVariantMap>
 
 #include <algorithm>
 #include <array>
+#include <limits>
+#include <map>
 
 namespace sample {
 
@@ -48,11 +53,63 @@ QString dayText(const QString& day)
     return QString::number(secondsSince2001(day + " 12:00:00")) + ".0";
 }
 
-QString letterOf(const QJsonObject& person, const char* first, const char* second)
+// The phone writes keys of its own collation here. These order alike: in capitals and without
+// accents, by pronunciation where it is given.
+QString sortText(const QJsonObject& person, const char* part, const char* phonetic)
 {
-    const QString name = person[QLatin1String(first)].toString();
-    const QString other = person[QLatin1String(second)].toString();
-    return (name.isEmpty() ? other : name).left(1).toUpper();
+    const QString spoken = person[QLatin1String(phonetic)].toString();
+    QString text = (spoken.isEmpty() ? person[QLatin1String(part)].toString() : spoken)
+                       .normalized(QString::NormalizationForm_KD)
+                       .toUpper();
+    text.remove(QRegularExpression("\\p{M}"));
+    return text;
+}
+
+/// Where a person stands in the lists.
+struct SortKeys {
+    QString byFirst;
+    QString byLast;
+    int language = 0;
+
+    // Latin letters have sections of their own, other names stand under "#".
+    QString section(const QString& key) const
+    {
+        return language == 0 || key.isEmpty() ? key.left(1) : QStringLiteral("#");
+    }
+};
+
+SortKeys sortKeysOf(const QJsonObject& person)
+{
+    const QString first = sortText(person, "First", "FirstPhonetic");
+    const QString last = sortText(person, "Last", "LastPhonetic");
+    SortKeys keys{
+        .byFirst = (first + " " + last).simplified(), .byLast = (last + " " + first).simplified()};
+    if (keys.byLast.isEmpty() || person["Kind"].toInt() == 1) {
+        keys.byLast = sortText(person, "Organization", "OrganizationPhonetic");
+        keys.byFirst = keys.byLast;
+    }
+    if (keys.byLast.isEmpty()) {
+        keys.byLast = sortText(person, "Nickname", "Nickname");
+        keys.byFirst = keys.byLast;
+    }
+    const QChar letter = keys.byLast.isEmpty() ? QChar() : keys.byLast.front();
+    const bool isLatin = letter.script() == QChar::Script_Latin;
+    keys.language = isLatin ? 0 : std::numeric_limits<int>::max();
+    return keys;
+}
+
+// What the phone keeps of a day in another calendar.
+QVariant otherCalendar(const QJsonObject& day)
+{
+    return QString::fromUtf8(xmlPlist(day.toVariantMap()));
+}
+
+QVariant cellOf(const QString& column, const QJsonValue& value)
+{
+    if (column == "Birthday") {
+        return dayText(value.toString());
+    }
+    return value.isObject() ? otherCalendar(value.toObject()) : value.toVariant();
 }
 
 QString digitsOf(const QString& phone)
@@ -85,7 +142,7 @@ void AddressBook::write(const QJsonObject& source)
     for (const QJsonValue& person : entriesOf(source["people"])) {
         writePerson(person.toObject(), ++row);
     }
-    writeLinks(source["people"]);
+    writeLinks(source["people"].toArray());
     for (const QJsonValue& group : entriesOf(source["groups"])) {
         writeGroup(group.toObject());
     }
@@ -96,19 +153,24 @@ void AddressBook::write(const QJsonObject& source)
 void AddressBook::writePerson(const QJsonObject& source, qint64 row)
 {
     const qint64 made = secondsSince2001("2018-12-24 18:00:00") + row * 86400;
+    const SortKeys sort = sortKeysOf(source);
     Database::Row cells{{"ROWID", row},
         {"guid", uuidFor(QString("person %1").arg(row)) + ":ABPerson"}, {"CreationDate", made},
-        {"ModificationDate", made}, {"FirstSortSection", letterOf(source, "First", "Organization")},
-        {"LastSortSection", letterOf(source, "Last", "Organization")}};
+        {"ModificationDate", made}, {"FirstSort", sort.byFirst}, {"LastSort", sort.byLast},
+        {"FirstSortSection", sort.section(sort.byFirst)},
+        {"LastSortSection", sort.section(sort.byLast)}, {"FirstSortLanguageIndex", sort.language},
+        {"LastSortLanguageIndex", sort.language}};
     const QStringList keys = source.keys();
     std::vector<QByteArray> names; // outlive the row
     names.reserve(static_cast<std::size_t>(keys.size()));
     for (const QString& key : keys) {
-        if (key.front().isUpper()) {
+        if (key.front().isUpper() && key != "IsPreferredImage") { // a column of links
             names.push_back(key.toUtf8());
-            cells.emplace_back(names.back().constData(),
-                key == "Birthday" ? dayText(source[key].toString()) : source[key].toVariant());
+            cells.emplace_back(names.back().constData(), cellOf(key, source[key]));
         }
+    }
+    if (source.contains("picture") || source.contains("thumbnail")) {
+        cells.emplace_back("ImageType", "PHOTO");
     }
     for (const char* column : {"StoreID", "Kind"}) {
         if (!source.contains(QLatin1String(column))) {
@@ -119,13 +181,30 @@ void AddressBook::writePerson(const QJsonObject& source, qint64 row)
     for (const Values& values : kValues) {
         writeValues(row, values.key, values.property, source[QLatin1String(values.key)]);
     }
-    if (source.contains("picture")) {
-        const QByteArray bytes = media(source["picture"].toString(), m_mediaFolder);
-        m_pictures.insert("ABFullSizeImage", {{"record_id", row}, {"crop_x", 0}, {"crop_y", 0},
-                                                 {"crop_width", 200}, {"data", bytes}});
-        m_pictures.insert("ABThumbnailImage",
-            {{"record_id", row}, {"format", 0}, {"derived_from_format", 2}, {"data", bytes}});
+    writePictures(source, row);
+}
+
+// A full picture has thumbnails of two sizes; of some people the phone has thumbnails alone.
+void AddressBook::writePictures(const QJsonObject& source, qint64 row)
+{
+    const bool isWhole = source.contains("picture");
+    const QString name = source[isWhole ? "picture" : "thumbnail"].toString();
+    if (name.isEmpty()) {
+        return;
     }
+    const QByteArray bytes = media(name, m_mediaFolder);
+    const QImage image = QImage::fromData(bytes);
+    const QImage small =
+        image.scaled(image.size() / 2, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    const QByteArray list = name.endsWith(".png") ? png(small) : jpeg(small);
+    if (isWhole) {
+        m_pictures.insert("ABFullSizeImage", {{"record_id", row}, {"crop_x", 0}, {"crop_y", 0},
+                                                 {"crop_width", image.width()}, {"data", bytes}});
+    }
+    m_pictures.insert("ABThumbnailImage",
+        {{"record_id", row}, {"format", 0}, {"derived_from_format", 2}, {"data", list}});
+    m_pictures.insert("ABThumbnailImage",
+        {{"record_id", row}, {"format", 5}, {"derived_from_format", 2}, {"data", bytes}});
 }
 
 // Each value is a pair of label and value; the value is a text or an object of entries.
@@ -157,18 +236,24 @@ void AddressBook::writeEntries(qint64 value, const QJsonObject& entries)
     }
 }
 
-// Cards with the same number are shown as one; one of them gives the name.
-void AddressBook::writeLinks(const QJsonValue& people)
+// Cards with the same number are shown as one; one of them gives the name, one the picture.
+void AddressBook::writeLinks(const QJsonArray& people)
 {
-    qint64 row = 0;
-    for (const QJsonValue& person : entriesOf(people)) {
-        const QJsonObject card = person.toObject();
-        ++row;
-        if (card.contains("PersonLink") && card["IsPreferredName"].toInt() == 1) {
-            m_book.insert("ABPersonLink",
-                {{"ROWID", card["PersonLink"].toInt()}, {"PreferredNamePersonID", row},
-                    {"guid", uuidFor(QString("link %1").arg(card["PersonLink"].toInt()))}});
+    std::map<int, Database::Row> links;
+    for (int index = 0; index < people.size(); ++index) {
+        const QJsonObject card = people[index].toObject();
+        const int link = card["PersonLink"].toInt();
+        if (card["IsPreferredName"].toInt() == 1) {
+            links[link].emplace_back("PreferredNamePersonID", index + 1);
         }
+        if (card["IsPreferredImage"].toInt() == 1) {
+            links[link].emplace_back("PreferredImagePersonID", index + 1);
+        }
+    }
+    for (auto& [link, cells] : links) {
+        cells.emplace_back("ROWID", link);
+        cells.emplace_back("guid", uuidFor(QString("link %1").arg(link)));
+        m_book.insert("ABPersonLink", cells);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "Database.h"
 
 #include <QHash>
+#include <QJsonArray>
 #include <QJsonObject>
 
 namespace sample {
@@ -17,10 +18,11 @@ public:
 
 private:
     void writePerson(const QJsonObject& source, qint64 row);
+    void writePictures(const QJsonObject& source, qint64 row);
     void writeValues(qint64 person, const char* kind, int property, const QJsonValue& values);
     void writeEntries(qint64 value, const QJsonObject& entries);
     void writeGroup(const QJsonObject& source);
-    void writeLinks(const QJsonValue& people);
+    void writeLinks(const QJsonArray& people);
     qint64 label(const QString& text);
     qint64 entryKey(const QString& text);
 

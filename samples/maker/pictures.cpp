@@ -240,10 +240,11 @@ QImage boat(double step)
     return image;
 }
 
-QImage portrait(const QColor& hair, const QColor& shirt)
+QImage portrait(const QColor& hair, const QColor& shirt, int size)
 {
-    QImage image(200, 200, QImage::Format_RGB32);
+    QImage image(size, size, QImage::Format_RGB32);
     Canvas canvas(image);
+    canvas.scale(size / 200.0, size / 200.0);
     canvas.falling({0, 0, 200, 200}, "#e3f2fd", "#bbdefb");
     canvas.ellipse(50, 22, 100, 130, hair);
     canvas.ellipse(20, 140, 160, 120, shirt);
@@ -254,6 +255,21 @@ QImage portrait(const QColor& hair, const QColor& shirt)
     canvas.ellipse(111, 88, 9, 11, "#3e2723");
     canvas.setBrush(QColor("#c2185b"));
     canvas.drawChord(QRectF(82, 98, 36, 28), 180 * 16, 180 * 16);
+    return image;
+}
+
+QImage flower()
+{
+    QImage image(320, 320, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    Canvas canvas(image);
+    canvas.line({160, 170}, {150, 305}, "#388e3c", 12);
+    for (int petal = 0; petal < 8; ++petal) {
+        const double angle = qDegreesToRadians(petal * 45.0);
+        canvas.ellipse(118 + 62 * qCos(angle), 88 + 62 * qSin(angle), 84, 84,
+            petal % 2 == 0 ? "#ec407a" : "#f48fb1");
+    }
+    canvas.ellipse(124, 94, 72, 72, "#fdd835");
     return image;
 }
 

@@ -17,8 +17,10 @@ QImage sketch(); ///< a boat drawn with a finger, 500 x 360
 QImage page();   ///< a scanned sheet with lines of writing, 420 x 594
 /// A boat at sea, `step` from 0 to 1 of its way, 320 x 240.
 QImage boat(double step);
-/// Head and shoulders for an address book, 200 x 200.
-QImage portrait(const QColor& hair, const QColor& shirt);
+/// Head and shoulders for an address book, `size` pixels wide and high.
+QImage portrait(const QColor& hair, const QColor& shirt, int size = 200);
+/// The mark of a shop, transparent around, 320 x 320.
+QImage flower();
 
 QByteArray jpeg(const QImage& image);
 QByteArray png(const QImage& image);

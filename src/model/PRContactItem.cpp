@@ -11,9 +11,20 @@ PRContactPrivate::PRContactPrivate(ContactContent content) : ContactContent(std:
 
 PRContactPrivate::~PRContactPrivate() = default;
 
+PRContactItem::PRContactItem(Record record) : PRAbstractItem(std::move(record))
+{
+}
+
 PRContactItem::PRContactItem(Record record, ContactContent content)
-    : PRAbstractItem(std::move(record)), m_content(std::move(content))
+    : PRAbstractItem(std::move(record)),
+      m_content(std::make_unique<PRContactPrivate>(std::move(content)))
 {
 }
 
 PRContactItem::~PRContactItem() = default;
+
+const PRContactPrivate* PRContactItem::detailContent() const
+{
+    static const PRContactPrivate empty;
+    return m_content ? m_content.get() : &empty;
+}

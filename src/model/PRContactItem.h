@@ -96,11 +96,15 @@ private:
 /// One contact; `value(0)` is the display name.
 class DATAEXPORT_EXPORT PRContactItem : public PRAbstractItem {
 public:
-    explicit PRContactItem(Record record = {}, ContactContent content = {});
+    /// Without contents: all of them are empty.
+    explicit PRContactItem(Record record = {});
+    PRContactItem(Record record, ContactContent content);
     ~PRContactItem() override;
 
-    virtual const PRContactPrivate* detailContent() const { return &m_content; }
+    /// Never null. A reader of a large store overrides it to load the contact when it is asked for;
+    /// the result then holds until the next contact of the same store is asked for.
+    virtual const PRContactPrivate* detailContent() const;
 
 private:
-    PRContactPrivate m_content;
+    std::unique_ptr<PRContactPrivate> m_content; // null: none
 };

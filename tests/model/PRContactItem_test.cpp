@@ -69,3 +69,24 @@ TEST(PRContactItem, NumbersOfThePropertiesAreFixed)
     EXPECT_EQ(RelatedName, 23);
     EXPECT_EQ(SocialProfile, 46);
 }
+
+namespace {
+
+class LoadedContact final : public PRContactItem {
+public:
+    LoadedContact() : PRContactItem({.values = {"Anna"}}) { m_loaded.firstName = "Anna"; }
+    const PRContactPrivate* detailContent() const override { return &m_loaded; }
+
+private:
+    PRContactPrivate m_loaded;
+};
+
+} // namespace
+
+TEST(PRContactItem, ReaderMayLoadItsContents)
+{
+    const LoadedContact item;
+    const PRContactItem& contact = item;
+    EXPECT_EQ(contact.value(0), "Anna");
+    EXPECT_EQ(contact.detailContent()->firstName, "Anna");
+}

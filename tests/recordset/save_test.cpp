@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "loading.h"
+#include "model/PRContactItem.h"
 #include "model/PRFileItem.h"
 #include "model/PRNoteItem.h"
 #include "model/PRSMSItem.h"
@@ -83,6 +84,27 @@ public:
     {
         return {{.kind = 1, .content = "/p.heic", .previewPath = "/p.png"}};
     }
+};
+
+/// Contacts of one store: the contents hold until those of another are asked for.
+class LazyContact final : public PRContactItem {
+public:
+    LazyContact(QString name, std::unique_ptr<PRContactPrivate>& held)
+        : m_name(std::move(name)), m_held(held)
+    {
+    }
+    const PRContactPrivate* detailContent() const override
+    {
+        ContactContent content;
+        content.firstName = m_name;
+        content.propertyList.emplace_back(ContactProperty{.type = Email, .value = m_name + "@x"});
+        m_held = std::make_unique<PRContactPrivate>(std::move(content));
+        return m_held.get();
+    }
+
+private:
+    QString m_name;
+    std::unique_ptr<PRContactPrivate>& m_held;
 };
 
 } // namespace
@@ -199,6 +221,21 @@ TEST(Save, AsksRecordsForWhatTheyLoadLate)
     EXPECT_TRUE(
         text.contains(R"({"kind": "file", "path": "/late.png", "thumbFile": "/thumb.png"})"))
         << text.toStdString();
+}
+
+TEST(Save, WritesContactsThatHoldUntilTheNextOne)
+{
+    const TempTree tree;
+    std::unique_ptr<PRContactPrivate> held;
+    PRBackup backup;
+    backup.add(std::make_unique<PRContactData>(
+        recordsOf(make<LazyContact>("Mia", held), make<LazyContact>("Jo", held))));
+    const QByteArray text = saved(tree, backup);
+    for (const char* contact :
+        {R"({"firstName": "Mia", "properties": [)", R"({"type": 4, "value": "Mia@x"})",
+            R"({"firstName": "Jo", "properties": [)", R"({"type": 4, "value": "Jo@x"})"}) {
+        EXPECT_TRUE(text.contains(contact)) << contact << '\n' << text.toStdString();
+    }
 }
 
 TEST(Save, AsksNotesThatAreLoadedLate)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "backup/container/LooseFiles.h"
+#include "backup/readers/AddressBook.h"
 #include "backup/readers/BookmarkData.h"
 #include "backup/readers/CallData.h"
 #include "backup/readers/HistoryData.h"
@@ -28,6 +29,9 @@
 namespace backup {
 
 namespace {
+
+constexpr QLatin1String kHome = "HomeDomain"_L1;
+constexpr QLatin1String kAddressBook = "Library/AddressBook/AddressBook.sqlitedb"_L1;
 
 QString tr(const char* text)
 {
@@ -111,6 +115,33 @@ void addHistory(FoundDatabase found, OpenedBackup& opened)
     addToSet<HistoryData>(std::move(found), opened);
 }
 
+// Beside the address book on the device, and beside a loose one.
+std::optional<formats::Result<OpenedDatabase>> openContactPictures(
+    const FileLocator& files, Notices& notices)
+{
+    constexpr auto path = "Library/AddressBook/AddressBookImages.sqlitedb"_L1;
+    if (const auto* device = dynamic_cast<const BackupFolder*>(&files)) {
+        return device->openDatabase(kHome, path);
+    }
+    const QString found = files.locate(kHome, path);
+    if (found.isEmpty()) {
+        return std::nullopt;
+    }
+    return openWithLog(found, files.locate(kHome, path + "-wal"_L1), notices);
+}
+
+void addContacts(FoundDatabase found, OpenedBackup& opened)
+{
+    auto book = std::make_unique<AddressBook>(
+        std::move(found.database), found.name,
+        [&files = *opened.files, &notices = *opened.notices] {
+            return openContactPictures(files, notices);
+        },
+        *opened.notices);
+    opened.records.add(book->contacts());
+    opened.sources.push_back(std::move(book));
+}
+
 /// One place where a device keeps records. A kind that lies elsewhere on other releases has a row
 /// for each place; all of them are read. A star in the path is any name, and there can be many.
 struct SourceRow {
@@ -124,6 +155,7 @@ struct SourceRow {
 // clang-format off
 constexpr std::array kSources{
     SourceRow{"HomeDomain"_L1, "Library/SMS/sms.db"_L1, true, MessageStore::isMessageStore, addMessages},
+    SourceRow{kHome, kAddressBook, false, AddressBook::isAddressBook, addContacts},
     SourceRow{kNotesDomain, "NoteStore.sqlite"_L1, false, NoteStore::isNoteStore, addNotes},
     SourceRow{"HomeDomain"_L1, "Library/Notes/notes.sqlite"_L1, false, OldNoteStore::isOldNoteStore, addOldNotes},
     SourceRow{"HomeDomain"_L1, "Library/CallHistoryDB/CallHistory.storedata"_L1, false, isCallHistory, addCalls},
@@ -244,8 +276,7 @@ formats::Result<OpenedBackup> openBackupFolder(const QString& path)
     opened.files = std::move(*folder);
 
     SenderNames names;
-    if (const auto addressBook = openOrNote(device, "HomeDomain"_L1,
-            "Library/AddressBook/AddressBook.sqlitedb"_L1, true, *opened.notices)) {
+    if (const auto addressBook = openOrNote(device, kHome, kAddressBook, true, *opened.notices)) {
         names = SenderNames(addressBook->database);
     }
     for (const SourceRow& source : kSources) {

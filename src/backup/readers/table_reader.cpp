@@ -50,7 +50,10 @@ QString TableReader::selection(const QString& table, std::span<const WantedColum
             m_notices.add(
                 tr("%1 has no column %2; it is read as empty.").arg(m_name, names.first()));
         }
-        selected.append("coalesce("_L1 + found + "NULL,NULL)"_L1);
+        const QString value = "coalesce("_L1 + found + "NULL,NULL)"_L1;
+        selected.append(column.sizeOnly && !found.isEmpty()
+                            ? "length("_L1 + quoted(names.first()) + QChar(u')')
+                            : value);
     }
     return selected.join(QChar(u','));
 }
@@ -85,6 +88,13 @@ void TableReader::read(
     while (backwards && backwards->next() && backwards->integer(idColumn) > last) {
         take(*backwards);
     }
+}
+
+formats::Result<formats::Statement> TableReader::prepareRow(
+    const QString& table, std::span<const WantedColumn> columns) const
+{
+    return m_database.prepare("SELECT "_L1 + selection(table, columns) + " FROM "_L1 + quoted(table)
+                              + " WHERE rowid = ?"_L1);
 }
 
 QDateTime cocoaDate(const formats::Statement& row, int column)

@@ -16,8 +16,9 @@ class Notices;
 
 /// A column of a table as a reader wants it.
 struct WantedColumn {
-    QString name;        ///< "ZTITLE1|ZTITLE": the first of them that has a value
-    bool needed = false; ///< each release has it: that it is missing is told
+    QString name;          ///< "ZTITLE1|ZTITLE": the first of them that has a value
+    bool needed = false;   ///< each release has it: that it is missing is told
+    bool sizeOnly = false; ///< not its value but the number of its bytes, of which none is read
 };
 
 /// Reads whole tables of one database, in whatever form a release has them.
@@ -38,9 +39,15 @@ public:
     /// then those behind it from the last one on. What is missing is told to the notices.
     void read(const QString& table, std::span<const WantedColumn> columns, const Take& take) const;
 
+    /// Prepares the query of one row: its id is parameter 1, the columns are as above.
+    formats::Result<formats::Statement> prepareRow(
+        const QString& table, std::span<const WantedColumn> columns) const;
+
+    /// Tells that the database is damaged.
+    void noteDamage() const;
+
 private:
     QString selection(const QString& table, std::span<const WantedColumn> columns) const;
-    void noteDamage() const;
 
     const formats::Database& m_database;
     const QString& m_name;
