@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "exporters/page_text.h"
 #include "translators/contact/CContact2HtmlTranslate.h"
 #include "translators/contact/card.h"
 
@@ -36,6 +37,33 @@ TEST(CardStyleSheet, HasTheseRulesInOneLine)
     const QString sheet = "<style type=\"text/css\">" + rules.join("") + "</style>";
     EXPECT_EQ(cardStyleSheet().toStdString(), sheet.toStdString());
     EXPECT_EQ(CContact2HtmlTranslate::styleSheet(), sheet);
+}
+
+TEST(CardRows, TellTheirPlaceByTheirClass)
+{
+    struct {
+        CardRow row = CardRow::Head;
+        QString begin;
+    } const rows[] = {
+        {CardRow::Head, R"(<tr class="group">)"},
+        {CardRow::Inner, "<tr>"},
+        {CardRow::Last, R"(<tr class="group_end">)"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.begin.toStdString());
+        Page page;
+        addCardRow(page, row.row, "a<\n%2", "b>%1");
+        EXPECT_EQ(page.text(), row.begin
+                                   + R"(<td class="first-td">a&lt;<br>%2&nbsp;</td>)"
+                                     R"(<td class="second-td">b&gt;%1&nbsp;</td></tr>)");
+    }
+}
+
+TEST(CardHeading, SpansBothColumnsAndIsEscaped)
+{
+    Page page;
+    addCardHeading(page, "a<\n%1");
+    EXPECT_EQ(page.text(), R"(<tr class="group"><td colspan='2'>a&lt;<br>%1&nbsp;</td></tr>)");
 }
 
 } // namespace

@@ -133,6 +133,19 @@ TYPED_TEST(VCardRun, ANoteOfAMegabyteIsOneLine)
     EXPECT_EQ(line.find("\r\n"), line.size() - 2);
 }
 
+TYPED_TEST(VCardRun, HostileTextStandsInTheCardAsItIs)
+{
+    const QString text =
+        QString::fromUtf8("</td><script>\"%1%2\" \u202e\u05e9 \U0001F600 ") + QChar(0xD83D);
+    PRContactData data;
+    TypeParam translator(&data);
+    const QString card =
+        cardOf(translator, {.lastName = text, .nickname = text, .jobTitle = text}, text);
+    EXPECT_EQ(card.count(text), 4);
+    EXPECT_TRUE(
+        card.contains("FN:" + text + "\r\n") || card.contains("FN;CHARSET=utf-8:" + text + "\r\n"));
+}
+
 TYPED_TEST(VCardRun, DeletedContactsHaveTheCardsOfLiveOnes)
 {
     PRContactData data;
