@@ -4,6 +4,8 @@
 #include "interchange/field_tables.h"
 #include "platform/CCommonUtils.h"
 
+#include <QLocale>
+
 #include <array>
 #include <cstddef>
 
@@ -38,8 +40,9 @@ constexpr QLatin1String kBlockTitle = "\tOther Contact Info:\t"_L1;
 
 QString dateText(const QString& secondsSince2001, QLatin1String format)
 {
-    return CCommonUtils::buildDateTimeBase2001(secondsSince2001.toDouble())
-        .toString(QString(format));
+    // Not QDateTime's own text, which has the digits of the user's language.
+    return QLocale::c().toString(
+        CCommonUtils::buildDateTimeBase2001(secondsSince2001.toDouble()), QString(format));
 }
 
 QString dayText(const QString& secondsSince2001, QLatin1String format)

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QLocale>
 
 #include <cmath>
 
@@ -79,7 +80,8 @@ QString dateText(const QDateTime& date, bool local, bool withTime)
     QString text = withTime ? QStringLiteral("yyyy-MM-dd hh:mm") : QStringLiteral("yyyy-MM-dd");
     const qint64 clockMs = clockAt(date, local);
     if (clockMs < kFirstMs || clockMs > kLastMs) {
-        return QDateTime::fromMSecsSinceEpoch(clockMs, Qt::UTC).toString(text);
+        // Not the date's own text, which has the digits of the user's language.
+        return QLocale::c().toString(QDateTime::fromMSecsSinceEpoch(clockMs, Qt::UTC), text);
     }
     const qint64 rest = clockMs % kDayMs;
     const qint64 msOfDay = rest < 0 ? rest + kDayMs : rest;

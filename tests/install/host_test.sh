@@ -36,8 +36,14 @@ if grep -rlF -e "$build" "$prefix" --include='*.cmake' --include='*.h'; then
     fail "these files name the folder of the build"
 fi
 
+# Files for other programs have the same digits where people write others.
 mkdir "$work/out"
-QT_QPA_PLATFORM=offscreen "$work/host/host" "$work/out"
+LC_ALL=ar_EG.UTF-8 QT_QPA_PLATFORM=offscreen "$work/host/host" "$work/out" 2>"$work/host.log" \
+    || { cat "$work/host.log"; fail "the host does not run"; }
+for file in "CSV/Mia's Contacts for Google.csv" "CSV/Mia's Contacts in common use.csv" VCF/Mia.vcf \
+    "VCF/Mia's Contacts for iCloud.vcf"; do
+    grep -qF -e -04-12 "$work/out/Contacts/$file" || fail "the date is not in '$file'"
+done
 
 csv="$work/out/Messages/Mia's Messages.csv"
 [ -f "$csv" ] || fail "there is no '$csv'"

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Exports one conversation of one message into the directory that is named.
+// Exports one contact and one conversation of one message into the directory that is named.
 #include "driver/CBackupExporter.h"
 #include "model/CIProgressCallback.h"
 #include "model/PRBackup.h"
+#include "model/PRContactItem.h"
 #include "model/PRSMSItem.h"
+#include "translators/contact/CContactHelper.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -29,7 +31,7 @@ public:
     }
     void setAttachStage(bool /*attachStage*/) override {}
 
-    bool isComplete() const { return m_finished && m_range == 100 && m_position == 100.0; }
+    bool isComplete() const { return m_finished && m_range == 200 && m_position == 200.0; }
 
 private:
     int m_range = 0;
@@ -37,7 +39,20 @@ private:
     bool m_finished = false;
 };
 
-PRBackup backupWithOneMessage()
+std::unique_ptr<PRContactData> oneContact()
+{
+    ContactContent contact;
+    contact.firstName = "Mia";
+    contact.birthday = "-496152000"; // 1985-04-12
+    contact.propertyList.emplace_back(ContactProperty{
+        .type = Phone, .label = CContactHelper::CATE_MOBILE, .value = "+49 171 5550101"});
+    RecordList records;
+    records.push_back(
+        std::make_unique<PRContactItem>(Record{.values = {"Mia"}}, std::move(contact)));
+    return std::make_unique<PRContactData>(std::move(records));
+}
+
+PRBackup backupWithContactAndMessage()
 {
     SmsConversation conversation;
     conversation.chats.emplace_back(SmsMessage{.date = QDateTime::fromSecsSinceEpoch(1714566600),
@@ -48,6 +63,7 @@ PRBackup backupWithOneMessage()
         Record{.values = {"Mia", "+49 171 5550101"}}, std::move(conversation)));
     PRBackup backup;
     backup.add(std::make_unique<PRSMSData>(std::move(records)));
+    backup.add(oneContact());
     return backup;
 }
 
@@ -56,7 +72,12 @@ PRBackup backupWithOneMessage()
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    PRBackup backup = backupWithOneMessage();
+    CContactHelper helper;
+    if (helper.convertLabel(CContactHelper::CATE_MOBILE, false) != QLatin1String("mobile")) {
+        std::puts("host: the label of a mobile phone is another one");
+        return 1;
+    }
+    PRBackup backup = backupWithContactAndMessage();
     CountingProgress progress;
     CBackupExporter exporter;
     exporter.exportBackup(&backup, QDir(argv[1]), &progress, false, "Mia");
