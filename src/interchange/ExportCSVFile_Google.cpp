@@ -270,6 +270,13 @@ FieldMap contactToRecord(const PRContactItem& contact)
     return record;
 }
 
+void addGroup(CsvRow& header, const Series& series, int number)
+{
+    for (const QString& column : series.columns) {
+        header.add(column.arg(number));
+    }
+}
+
 QString buildHeaderRow()
 {
     CsvRow header;
@@ -279,9 +286,7 @@ QString buildHeaderRow()
     for (const Series& series : kSeries) {
         const int groups = series.once ? 1 : s_googleMaxCounts.value(series.name);
         for (int number = 1; number <= groups; ++number) {
-            for (const QString& column : series.columns) {
-                header.add(column.arg(number));
-            }
+            addGroup(header, series, number);
         }
     }
     return header.line();

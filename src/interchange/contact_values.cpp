@@ -14,7 +14,7 @@ namespace {
 struct NoteField {
     QString ContactContent::*field = nullptr;
     QLatin1String name;
-    std::array<bool, 3> shown; // by LabelColumn
+    std::array<bool, 3> shown{}; // by LabelColumn
 };
 
 // Outlook has columns for the other phonetic names, and none for the prefix.

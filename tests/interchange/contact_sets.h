@@ -79,7 +79,7 @@ QStringList exportedLines(const QString& file, std::vector<ContactContent> conte
 
 inline QString commas(int count)
 {
-    return QString(count, ',');
+    return {count, ','};
 }
 
 /// Everything that a contact can have, with a comma, a semicolon or a line break here and there.

@@ -179,6 +179,14 @@ TEST(InterchangeExport, ReportsAFileThatCannotBeOpened)
     EXPECT_FALSE(tree.exists(kMacFile));
 }
 
+TEST(InterchangeExport, TakesAFileForAFolderAndThenCannotOpenItsOwn)
+{
+    const TempTree tree;
+    tree.write("Contacts/CSV", "");
+    PRContactData data(contacts::records({contacts::plainOne()}));
+    EXPECT_EQ(exportAll(tree, data), (QList<int>{0, 1, 1}));
+}
+
 TEST(InterchangeExport, FailureOfOneLeavesTheOthersAlone)
 {
     const TempTree tree;
