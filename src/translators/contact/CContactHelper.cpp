@@ -201,9 +201,9 @@ QString CContactHelper::convertSpecialValue(const QString& value)
     return name != nullptr ? QString::fromLatin1(name) : value;
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the date comes by value in the host's
-// contract
+// NOLINTBEGIN(performance-unnecessary-value-param): the date comes by value in the host's contract
 QString CContactHelper::getDateDesc(QDateTime dateTime, const char* format)
+// NOLINTEND(performance-unnecessary-value-param)
 {
     // Asked and written before any change of zone, which could lead out of the year.
     if (dateTime.date().year() == kYearOfDatesWithoutYear) {

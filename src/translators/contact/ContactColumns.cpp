@@ -8,6 +8,7 @@
 #include "translators/contact/CContactHelper.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -69,9 +70,10 @@ QStringList ContactColumns::names() const
     }
     for (const auto& [block, count] : m_blocks) {
         for (int number = 1; number <= count; ++number) {
-            for (const PropertyColumn& column : block.columns) {
-                names.append(QString(column.name).arg(number));
-            }
+            std::ranges::transform(
+                block.columns, std::back_inserter(names), [number](const PropertyColumn& column) {
+                    return QString(column.name).arg(number);
+                });
         }
     }
     return names;
