@@ -8,9 +8,16 @@
 #include "translators/contact/CContactHelper.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
+
+// The names of the columns of a kind's property of that number.
+void appendNames(QStringList& names, const PropertyBlock& block, int number)
+{
+    for (const PropertyColumn& column : block.columns) {
+        names.append(QString(column.name).arg(number));
+    }
+}
 
 void appendCell(QString& row, const QString& text)
 {
@@ -70,10 +77,7 @@ QStringList ContactColumns::names() const
     }
     for (const auto& [block, count] : m_blocks) {
         for (int number = 1; number <= count; ++number) {
-            std::ranges::transform(
-                block.columns, std::back_inserter(names), [number](const PropertyColumn& column) {
-                    return QString(column.name).arg(number);
-                });
+            appendNames(names, block, number);
         }
     }
     return names;

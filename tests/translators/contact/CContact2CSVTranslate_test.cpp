@@ -86,10 +86,7 @@ TEST(ContactCsv, BlocksFollowInTheOrderAddressPhoneEmailEventWebsite)
 
 TEST(ContactCsv, BlocksOfOneKindAreNumberedFromOne)
 {
-    std::vector<PRContactProperty> phones;
-    for (int i = 0; i < 11; ++i) {
-        phones.push_back(plain(3, "", ""));
-    }
+    const std::vector<PRContactProperty> phones(11, plain(3, "", ""));
     QString names = kFixedNames;
     for (int i = 1; i <= 11; ++i) {
         names += QString(",Phone %1 - Type,Phone %1 - Value").arg(i);
