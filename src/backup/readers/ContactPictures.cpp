@@ -5,6 +5,7 @@
 #include "backup/readers/ContactPictures.h"
 
 #include "backup/container/Notices.h"
+#include "backup/readers/sorted_rows.h"
 #include "platform/literals.h"
 
 #include <QCoreApplication>
@@ -37,23 +38,27 @@ formats::Statement dataOfRow(const TableReader& reader, const QString& table)
 ContactPictures::Store::Store(OpenedDatabase opened, Notices& notices)
     : database(std::move(opened)), reader(database.database, databaseName(), notices)
 {
-    for (const QLatin1String table : {kFullSize, kThumbnail}) {
-        const std::array columns{
-            WantedColumn{"record_id"_L1, true}, WantedColumn{"data"_L1, true, true}};
-        reader.read(table, columns, [&](const formats::Statement& row) {
-            if (row.integer(1) > 0) {
-                pictures.push_back({.card = row.integer(0),
-                    .isThumbnail = table == kThumbnail,
-                    .size = row.integer(1),
-                    .row = row.integer(2)});
-            }
-        });
-    }
+    findIn(kFullSize, false);
+    findIn(kThumbnail, true);
     std::ranges::stable_sort(pictures, {}, [](const Picture& picture) {
         return std::tuple(picture.card, picture.isThumbnail, -picture.size);
     });
     full = dataOfRow(reader, kFullSize);
     thumbnail = dataOfRow(reader, kThumbnail);
+}
+
+void ContactPictures::Store::findIn(const QString& table, bool areThumbnails)
+{
+    const std::array columns{
+        WantedColumn{"record_id"_L1, true}, WantedColumn{"data"_L1, true, true}};
+    reader.read(table, columns, [&](const formats::Statement& row) {
+        if (row.integer(1) > 0) {
+            pictures.push_back({.card = row.integer(0),
+                .isThumbnail = areThumbnails,
+                .size = row.integer(1),
+                .row = row.integer(2)});
+        }
+    });
 }
 
 void ContactPictures::open(bool areExpected)
@@ -91,22 +96,28 @@ QByteArray ContactPictures::bytesOf(const Picture& picture)
     return bytes;
 }
 
+QByteArray ContactPictures::ofCard(qint64 card)
+{
+    for (const Picture& picture : rowsWith(m_store->pictures, card, &Picture::card)) {
+        QByteArray bytes = bytesOf(picture);
+        if (!bytes.isEmpty()) {
+            return bytes; // where the full one is damaged, a thumbnail serves
+        }
+    }
+    return {};
+}
+
 QByteArray ContactPictures::of(std::span<const qint64> cards, bool areExpected)
 {
     open(areExpected);
     if (!m_store) {
         return {};
     }
-    for (const qint64 card : cards) {
-        for (const Picture& picture :
-            std::ranges::equal_range(m_store->pictures, card, {}, &Picture::card)) {
-            QByteArray bytes = bytesOf(picture);
-            if (!bytes.isEmpty()) {
-                return bytes;
-            }
-        }
+    QByteArray bytes;
+    for (auto card = cards.begin(); bytes.isEmpty() && card != cards.end(); ++card) {
+        bytes = ofCard(*card);
     }
-    return {};
+    return bytes;
 }
 
 } // namespace backup

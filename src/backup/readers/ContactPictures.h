@@ -40,6 +40,7 @@ private:
     /// The opened database with the places of the pictures.
     struct Store {
         explicit Store(OpenedDatabase opened, Notices& notices);
+        void findIn(const QString& table, bool areThumbnails);
 
         OpenedDatabase database;
         TableReader reader;
@@ -50,6 +51,7 @@ private:
 
     void open(bool areExpected);
     QByteArray bytesOf(const Picture& picture);
+    QByteArray ofCard(qint64 card);
 
     Open m_open;
     Notices& m_notices;

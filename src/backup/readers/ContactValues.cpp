@@ -7,6 +7,7 @@
 
 #include "backup/readers/contact_date.h"
 #include "backup/readers/contact_name.h"
+#include "backup/readers/sorted_rows.h"
 #include "platform/literals.h"
 
 #include <QSet>
@@ -75,6 +76,21 @@ QString signature(const ContactProperty& property)
         parts << part.key() << part.value();
     }
     return parts.join(QChar(u'\0'));
+}
+
+// Adds what the cards before do not have; `known` are the signatures of what they have.
+void addNew(std::vector<ContactProperty> properties, QSet<QString>& known,
+    std::vector<ContactProperty>& all)
+{
+    QSet<QString> own;
+    for (ContactProperty& property : properties) {
+        const QString shown = signature(property);
+        own.insert(shown);
+        if (!known.contains(shown)) {
+            all.push_back(std::move(property));
+        }
+    }
+    known.unite(own);
 }
 
 } // namespace
@@ -148,16 +164,10 @@ QString ContactValues::textOf(const Text& text) const
     return withPlainLineEnds(withoutMarks(decoded));
 }
 
-std::span<const ContactValues::Value> ContactValues::valuesOf(qint64 card) const
-{
-    const auto found = std::ranges::equal_range(m_values, card, {}, &Value::card);
-    return {found.begin(), found.end()};
-}
-
 QMap<QString, QString> ContactValues::partsOf(qint64 value) const
 {
     QMap<QString, QString> parts;
-    for (const Part& part : std::ranges::equal_range(m_parts, value, {}, &Part::value)) {
+    for (const Part& part : rowsWith(m_parts, value, &Part::value)) {
         const QString key = m_keys.value(part.key);
         if (!key.isEmpty() && !parts.contains(key)) {
             parts.insert(key, textOf(part.text));
@@ -188,24 +198,25 @@ std::optional<ContactProperty> ContactValues::property(const Value& value) const
     return property;
 }
 
+std::vector<ContactProperty> ContactValues::propertiesOf(qint64 card) const
+{
+    std::vector<ContactProperty> properties;
+    for (const Value& value : rowsWith(m_values, card, &Value::card)) {
+        std::optional<ContactProperty> found = property(value);
+        if (found) {
+            properties.push_back(std::move(*found));
+        }
+    }
+    return properties;
+}
+
 std::vector<PRContactProperty> ContactValues::of(std::span<const qint64> cards)
 {
     read();
     std::vector<ContactProperty> all;
-    QSet<QString> known; // of the cards before
+    QSet<QString> known;
     for (const qint64 card : cards) {
-        QSet<QString> own;
-        for (const Value& value : valuesOf(card)) {
-            std::optional<ContactProperty> found = property(value);
-            const QString shown = found && cards.size() > 1 ? signature(*found) : QString();
-            if (found && !known.contains(shown)) {
-                own.insert(shown);
-                all.push_back(std::move(*found));
-            }
-        }
-        if (cards.size() > 1) {
-            known.unite(own);
-        }
+        addNew(propertiesOf(card), known, all);
     }
     std::ranges::stable_sort(all, {}, &ContactProperty::type);
     std::vector<PRContactProperty> properties;
@@ -219,7 +230,7 @@ std::vector<PRContactProperty> ContactValues::of(std::span<const qint64> cards)
 QString ContactValues::first(qint64 card, PropType kind)
 {
     read();
-    for (const Value& value : valuesOf(card)) {
+    for (const Value& value : rowsWith(m_values, card, &Value::card)) {
         const auto found = value.kind == kind ? property(value) : std::nullopt;
         if (found) {
             return found->value.simplified();

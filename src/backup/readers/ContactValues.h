@@ -52,9 +52,9 @@ private:
     void readParts();
     Text keep(std::string_view text);
     QString textOf(const Text& text) const;
-    std::span<const Value> valuesOf(qint64 card) const;
     QMap<QString, QString> partsOf(qint64 value) const;
     std::optional<ContactProperty> property(const Value& value) const;
+    std::vector<ContactProperty> propertiesOf(qint64 card) const;
 
     const TableReader& m_store;
     bool m_isRead = false;

@@ -61,7 +61,7 @@ QString chineseYear(const OtherDate& date)
         return date.year > 0 ? QString::number(date.year) : QString();
     }
     const auto year = static_cast<std::size_t>(date.year - 1);
-    const QString name = QStringLiteral("%1-%2").arg(QLatin1String(kStems.at(year % kStems.size())),
+    QString name = QStringLiteral("%1-%2").arg(QLatin1String(kStems.at(year % kStems.size())),
         QLatin1String(kBranches.at(year % kBranches.size())));
     if (date.era < 1 || date.era > 2 * kCycle) {
         return name;

@@ -88,6 +88,7 @@ std::span<const WantedColumn> contactColumns()
 {
     static const std::vector<WantedColumn> columns = [] {
         std::vector<WantedColumn> all;
+        all.reserve(kFields.size() + 3);
         for (const Field& field : kFields) {
             all.push_back({field.column, field.needed});
         }

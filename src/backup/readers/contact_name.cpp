@@ -89,7 +89,7 @@ bool isMark(QChar c)
 
 QString displayName(const ContactName& name)
 {
-    const QString organization = name.organization.simplified();
+    QString organization = name.organization.simplified();
     if (name.isOrganization && !organization.isEmpty()) {
         return organization;
     }

@@ -185,15 +185,22 @@ void putNameFirst(std::vector<Card>& cards, const Link& link)
     });
 }
 
+QString firstValue(const std::vector<Card>& cards, PropType kind, ContactValues& values)
+{
+    QString value;
+    for (auto card = cards.begin(); value.isEmpty() && card != cards.end(); ++card) {
+        value = values.first(card->id, kind);
+    }
+    return value;
+}
+
 // Who has no name is called by what else a card tells.
 QString nameByValues(const std::vector<Card>& cards, ContactValues& values)
 {
     for (const PropType kind : {Phone, Email, WebAddress}) {
-        for (const Card& card : cards) {
-            const QString value = values.first(card.id, kind);
-            if (!value.isEmpty()) {
-                return value;
-            }
+        QString value = firstValue(cards, kind, values);
+        if (!value.isEmpty()) {
+            return value;
         }
     }
     return tr("No Name");
