@@ -33,8 +33,8 @@ TEST_F(AddressBookDamageTest, OldStoreWithFewColumnsIsReadWithoutANotice)
         {R"(CREATE TABLE ABPerson (ROWID INTEGER PRIMARY KEY, First TEXT, Last TEXT, Middle TEXT,
             Organization TEXT, Department TEXT, Note TEXT, Kind INTEGER, Birthday TEXT,
             JobTitle TEXT, Nickname TEXT, Prefix TEXT, Suffix TEXT))",
-            "CREATE TABLE ABMultiValue (UID INTEGER PRIMARY KEY, record_id INTEGER,"
-            " property INTEGER, identifier INTEGER, label INTEGER, value TEXT)",
+            R"(CREATE TABLE ABMultiValue (UID INTEGER PRIMARY KEY, record_id INTEGER,
+            property INTEGER, identifier INTEGER, label INTEGER, value TEXT))",
             "CREATE TABLE ABMultiValueLabel (value TEXT)",
             "CREATE TABLE ABMultiValueEntry (parent_id INTEGER, key INTEGER, value TEXT)",
             "CREATE TABLE ABMultiValueEntryKey (value TEXT)",

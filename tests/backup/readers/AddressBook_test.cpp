@@ -59,8 +59,8 @@ TEST_F(AddressBookTest, PropertiesStandInTheOrderOfThePhoneWithTheirLabels)
 TEST_F(AddressBookTest, CompositeValuesAreMapsUnderTheUsualKeys)
 {
     openBook({people("First", "('Mia')"), "INSERT INTO ABMultiValueLabel VALUES ('_$!<Home>!$_')",
-        "INSERT INTO ABMultiValueEntryKey VALUES ('STREET'), ('zip'), ('countrycode'), ('Service'),"
-        " ('UserName'), ('url'), ('sublocality'), ('Own')",
+        R"(INSERT INTO ABMultiValueEntryKey VALUES ('STREET'), ('zip'), ('countrycode'),
+            ('Service'), ('UserName'), ('url'), ('sublocality'), ('Own'))",
         values("(1, 5, 0, 1, NULL), (1, 13, 0, 1, NULL), (1, 46, 0, 1, NULL)"),
         "INSERT INTO ABMultiValueEntry VALUES (1, 1, 'Hafen 1' || char(13, 10) || 'Haus 2'),"
         " (1, 2, '20359'), (1, 3, 'de'), (1, 7, 'Altstadt'), (1, 8, 'x'), (1, 99, 'no key'),"

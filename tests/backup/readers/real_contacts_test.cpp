@@ -70,11 +70,11 @@ TEST_F(RealContacts, HandMadeBookIsRead)
     ASSERT_EQ(names(),
         QStringList({"Acme Synthetics", "Dr. Alex Quinn Fixture Jr.", "Broken Label", "Solo"}));
     EXPECT_EQ(contact(1).birthday, "-339336000"); // noon of 1990-04-01
+    const QString address = "5 _$!<Home>!$_: City=Faketown; Country=Fixtureland; State=FX;"
+                            " Street=1 Synthetic Way; ZIP=00001";
     EXPECT_EQ(properties(1),
         QStringList({"3 _$!<Home>!$_: +1 555 0100", "3 _$!<Work>!$_: +1 555 0101",
-            "3 : +1 555 0102", "4 _$!<Home>!$_: alex@example.com",
-            "5 _$!<Home>!$_: City=Faketown; Country=Fixtureland; State=FX; Street=1 Synthetic Way;"
-            " ZIP=00001",
+            "3 : +1 555 0102", "4 _$!<Home>!$_: alex@example.com", address,
             "13 : username=fixture-im", "22 fixture custom: https://alex.example.com"}));
     EXPECT_EQ(properties(2), QStringList("3 : +1 555 0199"));
     EXPECT_EQ(notices(), QStringList());
