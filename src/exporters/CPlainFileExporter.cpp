@@ -83,6 +83,8 @@ bool CPlainFileExporter::openFile(const QString& baseName)
     if (!m_file.open(QIODevice::WriteOnly)) {
         return false;
     }
+    // Else each file would leave one more flush to be called when the next one is closed.
+    m_file.disconnect();
     m_stream.setDevice(&m_file);
     m_stream.setCodec(m_codec.toUtf8().constData());
     m_stream.setGenerateByteOrderMark(m_bom);
