@@ -247,6 +247,17 @@ TEST_F(ExportContact, CardsThatHaveNoFolderCostNoOtherFormat)
                + kForOtherAddressBooks.filter("Google") + kForOtherAddressBooks.filter("Outlook")));
 }
 
+TEST_F(ExportContact, FilesForOtherAddressBooksThatFailAreNoFailure)
+{
+    for (const QString& path : kForOtherAddressBooks.filter("for")) {
+        ASSERT_TRUE(root().mkpath(path)); // a directory in the place of each
+    }
+    const auto set = contactSet({"Mia"});
+    EXPECT_TRUE(run(set.get()));
+    EXPECT_TRUE(tree().contains(kCsv));
+    EXPECT_TRUE(tree().contains("Cat/VCF/Mia.vcf"));
+}
+
 TEST_F(ExportContact, ACancelKeepsWhatWasWrittenAndTheFilesForOtherAddressBooks)
 {
     struct {
