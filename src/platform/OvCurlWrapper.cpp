@@ -10,11 +10,7 @@
 
 namespace {
 
-constexpr long kConnectSeconds = 15;
-constexpr long kSlowBytesPerSecond = 1024;
-constexpr long kSlowSeconds = 30;
 constexpr long kMaxRedirects = 10;
-constexpr qint64 kMaxBytes = qint64(2) << 30;
 
 struct EasyCleanup {
     void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
@@ -23,6 +19,7 @@ using EasyHandle = std::unique_ptr<CURL, EasyCleanup>;
 
 struct Body {
     QFile& file;
+    qint64 limit;
     qint64 size = 0;
 };
 
@@ -31,14 +28,14 @@ std::size_t writeBody(char* bytes, std::size_t /*one*/, std::size_t count, void*
 {
     Body& body = *static_cast<Body*>(target);
     body.size += static_cast<qint64>(count);
-    if (body.size > kMaxBytes) {
+    if (body.size > body.limit) {
         return 0;
     }
     const qint64 written = body.file.write(bytes, static_cast<qint64>(count));
     return written < 0 ? 0 : static_cast<std::size_t>(written);
 }
 
-void setOptions(CURL* curl, const QByteArray& address, Body& body)
+void setOptions(CURL* curl, const QByteArray& address, const DownloadLimits& limits, Body& body)
 {
     // NOLINTBEGIN(cppcoreguidelines-pro-type-vararg): the interface of the library
     curl_easy_setopt(curl, CURLOPT_URL, address.constData());
@@ -46,15 +43,37 @@ void setOptions(CURL* curl, const QByteArray& address, Body& body)
     curl_easy_setopt(curl, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
     curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 1L);
     curl_easy_setopt(curl, CURLOPT_MAXREDIRS, kMaxRedirects);
-    curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT, kConnectSeconds);
-    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_LIMIT, kSlowBytesPerSecond);
-    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_TIME, kSlowSeconds);
-    curl_easy_setopt(curl, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(kMaxBytes));
+    curl_easy_setopt(curl, CURLOPT_CONNECTTIMEOUT_MS, limits.connectMs);
+    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_LIMIT, limits.slowBytesPerSecond);
+    curl_easy_setopt(curl, CURLOPT_LOW_SPEED_TIME, limits.slowSeconds);
+    curl_easy_setopt(curl, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(limits.bytes));
     curl_easy_setopt(curl, CURLOPT_FAILONERROR, 1L);
     curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, writeBody);
     curl_easy_setopt(curl, CURLOPT_WRITEDATA, &body);
     // NOLINTEND(cppcoreguidelines-pro-type-vararg)
+}
+
+// A connection that is not made in time is one that failed, as a refused one is. libcurl has one
+// number for all that takes too long.
+CURLcode reasonOf(CURL* curl, CURLcode result)
+{
+    curl_off_t untilRequest = 0;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the interface of the library
+    curl_easy_getinfo(curl, CURLINFO_PRETRANSFER_TIME_T, &untilRequest);
+    return result == CURLE_OPERATION_TIMEDOUT && untilRequest == 0 ? CURLE_COULDNT_CONNECT : result;
+}
+
+int codeOf(CURL* curl, CURLcode reason)
+{
+    long status = 0;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): as above
+    curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &status);
+    const bool neverReached = reason == CURLE_COULDNT_RESOLVE_PROXY
+                              || reason == CURLE_COULDNT_RESOLVE_HOST
+                              || reason == CURLE_COULDNT_CONNECT;
+    // A redirect has a status of its own, which says nothing of the place that it leads to.
+    return status == 0 || neverReached ? static_cast<int>(reason) : static_cast<int>(status);
 }
 
 } // namespace
@@ -68,14 +87,11 @@ bool OvCurlWrapper::download(const QString& url, const QString& path, bool overw
         m_httpCode = CURLE_WRITE_ERROR;
         return false;
     }
-    Body body{file};
+    Body body{.file = file, .limit = m_limits.bytes};
     const QByteArray address = url.toUtf8();
-    setOptions(curl.get(), address, body);
+    setOptions(curl.get(), address, m_limits, body);
     const CURLcode result = curl_easy_perform(curl.get());
-
-    long status = 0;
-    curl_easy_getinfo(curl.get(), CURLINFO_RESPONSE_CODE, &status);
-    m_httpCode = status != 0 ? static_cast<int>(status) : static_cast<int>(result);
+    m_httpCode = codeOf(curl.get(), reasonOf(curl.get(), result));
 
     const bool flushed = file.flush();
     file.close();

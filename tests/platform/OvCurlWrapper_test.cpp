@@ -11,6 +11,7 @@
 #include <string>
 
 using support::ClosedPort;
+using support::FullPort;
 using support::HttpServer;
 using support::TempTree;
 
@@ -224,6 +225,109 @@ TEST(OvCurlWrapper, RefusesABodyThatIsAnnouncedAbove2GiB)
     OvCurlWrapper curl;
     EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), true));
     EXPECT_TRUE(tree.list().isEmpty());
+}
+
+TEST(OvCurlWrapper, HasTheLimitsOfAPatientUser)
+{
+    constexpr DownloadLimits limits;
+    EXPECT_EQ(limits.connectMs, 15'000);
+    EXPECT_EQ(limits.slowBytesPerSecond, 1024);
+    EXPECT_EQ(limits.slowSeconds, 30);
+    EXPECT_EQ(limits.bytes, 2'147'483'648);
+}
+
+TEST(OvCurlWrapper, TakesABodyUpToItsLimitAndNoPartOfALargerOne)
+{
+    const std::string tenBytes(10, 'b');
+    const std::string tooMany(11, 'b');
+    const std::string unannounced = "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n";
+    struct {
+        const char* what = nullptr;
+        std::string answer;
+        bool taken = false;
+    } const rows[] = {
+        {"announced, fits", HttpServer::reply(200, tenBytes), true},
+        {"announced, too large", HttpServer::reply(200, tooMany), false},
+        {"not announced, fits", unannounced + tenBytes, true},
+        {"not announced, too large", unannounced + tooMany, false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        HttpServer server;
+        server.answer("/a", row.answer);
+        const TempTree tree;
+        OvCurlWrapper curl(DownloadLimits{.bytes = 10});
+        EXPECT_EQ(curl.download(server.address("/a"), tree.path("file"), true), row.taken);
+        EXPECT_EQ(curl.httpCode(), 200);
+        EXPECT_EQ(tree.exists("file"), row.taken);
+    }
+}
+
+TEST(OvCurlWrapper, ReportsAConnectionThatIsNotMadeInTimeAsOneThatFailed)
+{
+    const FullPort port;
+    const TempTree tree;
+    OvCurlWrapper curl(DownloadLimits{.connectMs = 50});
+    EXPECT_FALSE(curl.download(port.address(), tree.path("file"), true));
+    EXPECT_EQ(curl.httpCode(), 7);
+    EXPECT_TRUE(tree.list().isEmpty());
+}
+
+TEST(OvCurlWrapper, ReportsAFailedConnectionBehindARedirect)
+{
+    const ClosedPort port;
+    HttpServer server;
+    const TempTree tree;
+    struct {
+        std::string goal;
+        int code = 0;
+    } const rows[] = {{port.address().toStdString(), 7}, {"http://a..b/", 6}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.goal);
+        server.answer("/a", HttpServer::redirect(row.goal));
+        OvCurlWrapper curl;
+        EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), true));
+        EXPECT_EQ(curl.httpCode(), row.code);
+        EXPECT_TRUE(tree.list().isEmpty());
+    }
+}
+
+TEST(OvCurlWrapper, EndsATransferThatIsTooSlow)
+{
+    const std::string head = "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\nbegin";
+    struct {
+        const char* what = nullptr;
+        std::string answer;
+        HttpServer::Ending ending = HttpServer::Ending::Close;
+        int code = 0;
+    } const rows[] = {
+        {"a body that comes byte by byte", head, HttpServer::Ending::Trickle, 200},
+        {"no answer at all", "", HttpServer::Ending::Silence, 28}, // out of time
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        HttpServer server;
+        server.answer("/a", row.answer);
+        server.endWith("/a", row.ending);
+        const TempTree tree;
+        OvCurlWrapper curl(DownloadLimits{.slowSeconds = 1});
+        EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), true));
+        EXPECT_EQ(curl.httpCode(), row.code);
+        EXPECT_TRUE(tree.list().isEmpty());
+    }
+}
+
+TEST(OvCurlWrapper, HandsItsLimitsToItsCopies)
+{
+    HttpServer server;
+    server.answer("/a", HttpServer::reply(200, "body"));
+    const TempTree tree;
+    const OvCurlWrapper strict(DownloadLimits{.bytes = 3});
+    OvCurlWrapper copy(strict);
+    OvCurlWrapper assigned;
+    assigned = strict;
+    EXPECT_FALSE(copy.download(server.address("/a"), tree.path("file"), true));
+    EXPECT_FALSE(assigned.download(server.address("/a"), tree.path("file"), true));
 }
 
 TEST(OvCurlWrapper, ReplacesAFileOnlyWhereThatIsWanted)
