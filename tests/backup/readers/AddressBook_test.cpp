@@ -62,10 +62,11 @@ TEST_F(AddressBookTest, CompositeValuesAreMapsUnderTheUsualKeys)
         R"(INSERT INTO ABMultiValueEntryKey VALUES ('STREET'), ('zip'), ('countrycode'),
             ('Service'), ('UserName'), ('url'), ('sublocality'), ('Own'))",
         values("(1, 5, 0, 1, NULL), (1, 13, 0, 1, NULL), (1, 46, 0, 1, NULL)"),
-        "INSERT INTO ABMultiValueEntry VALUES (1, 1, 'Hafen 1' || char(13, 10) || 'Haus 2'),"
-        " (1, 2, '20359'), (1, 3, 'de'), (1, 7, 'Altstadt'), (1, 8, 'x'), (1, 99, 'no key'),"
-        " (2, 4, 'Skype'), (2, 5, 'mia'), (3, 4, 'twitter'), (3, 5, 'mia'),"
-        " (3, 6, 'http://t.example/mia'), (77, 1, 'of no value')"});
+        R"(INSERT INTO ABMultiValueEntry VALUES
+            (1, 1, 'Hafen 1' || char(13, 10) || 'Haus 2'), (1, 2, '20359'), (1, 3, 'de'),
+            (1, 7, 'Altstadt'), (1, 8, 'x'), (1, 99, 'no key'), (2, 4, 'Skype'), (2, 5, 'mia'),
+            (3, 4, 'twitter'), (3, 5, 'mia'), (3, 6, 'http://t.example/mia'),
+            (77, 1, 'of no value'))"});
     EXPECT_EQ(properties(0),
         QStringList({"5 _$!<Home>!$_: CountryCode=de; Own=x; Street=Hafen 1\nHaus 2;"
                      " SubLocality=Altstadt; ZIP=20359",
