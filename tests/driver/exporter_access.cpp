@@ -111,6 +111,18 @@ struct GetDownloadFileItem {
 };
 template struct Opened<GetDownloadFileItem, &CBackupExporter::getDownloadFileItem>;
 
+struct OnDownloadChatAttach {
+    using Type = FetchMessages;
+    friend Type pointerTo(OnDownloadChatAttach name);
+};
+template struct Opened<OnDownloadChatAttach, &CBackupExporter::onDownloadChatAttach>;
+
+struct OnDownloadFileAttach {
+    using Type = FetchFiles;
+    friend Type pointerTo(OnDownloadFileAttach name);
+};
+template struct Opened<OnDownloadFileAttach, &CBackupExporter::onDownloadFileAttach>;
+
 } // namespace
 
 Flag fromDFU()
@@ -196,6 +208,16 @@ CollectMessages getDownloadChatMsg()
 CollectFiles getDownloadFileItem()
 {
     return pointerTo(GetDownloadFileItem{});
+}
+
+FetchMessages onDownloadChatAttach()
+{
+    return pointerTo(OnDownloadChatAttach{});
+}
+
+FetchFiles onDownloadFileAttach()
+{
+    return pointerTo(OnDownloadFileAttach{});
 }
 
 } // namespace access_to

@@ -19,6 +19,10 @@ using CollectMessages = void (CBackupExporter::*)(
     QList<PRWhatsappMsg*>&, int, PRBackup*, const QVector<int>&);
 using CollectFiles = void (CBackupExporter::*)(
     QList<PRFileItem*>&, int, PRBackup*, const QVector<int>&);
+using FetchMessages = void (CBackupExporter::*)(QList<PRWhatsappMsg*>&, int, PRBackup*, const QDir&,
+    const QString&, const QVector<int>&, CIProgressCallback*, bool);
+using FetchFiles = void (CBackupExporter::*)(QList<PRFileItem*>&, int, PRBackup*, const QDir&,
+    const QString&, const QVector<int>&, CIProgressCallback*, bool);
 
 Flag fromDFU();
 Flag exportContactForTavero();
@@ -37,5 +41,7 @@ Entry exportWhatsapp();
 Entry exportWhatsappHtml();
 CollectMessages getDownloadChatMsg();
 CollectFiles getDownloadFileItem();
+FetchMessages onDownloadChatAttach();
+FetchFiles onDownloadFileAttach();
 
 } // namespace access_to

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/OvCurlWrapper.h"
+#include "support/environment_variable.h"
 #include "support/http_server.h"
 #include "support/temp_tree.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <gtest/gtest.h>
@@ -16,29 +16,6 @@ using support::HttpServer;
 using support::TempTree;
 
 namespace {
-
-/// A variable of the environment, for as long as it lives.
-class Variable {
-public:
-    Variable(const char* name, const QByteArray& value) : m_name(name), m_before(qgetenv(name))
-    {
-        qputenv(name, value);
-    }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    ~Variable()
-    {
-        if (m_before.isNull()) {
-            qunsetenv(m_name);
-        } else {
-            qputenv(m_name, m_before);
-        }
-    }
-
-private:
-    const char* m_name;
-    QByteArray m_before;
-};
 
 // A row of redirects "/1" -> "/2" -> ... and the goal behind them.
 void answerWithRedirects(HttpServer& server, int count)
@@ -175,8 +152,8 @@ TEST(OvCurlWrapper, TellsSixForAHostAndFiveForAProxyThatCannotBe)
     EXPECT_FALSE(curl.download("http://a..b/", tree.path("file"), true));
     EXPECT_EQ(curl.httpCode(), 6);
 
-    const Variable proxy("http_proxy", "http://a..b:9/");
-    const Variable direct("no_proxy", "");
+    const support::EnvironmentVariable proxy("http_proxy", "http://a..b:9/");
+    const support::EnvironmentVariable direct("no_proxy", "");
     EXPECT_FALSE(curl.download("http://127.0.0.1:9/", tree.path("file"), true));
     EXPECT_EQ(curl.httpCode(), 5);
     EXPECT_TRUE(tree.list().isEmpty());
