@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QString>
 
+class QImage;
+
 /// Dates, file names and files, as all exporters write them. Readers of backups stand outside the
 /// library and have dates written in the same way.
 class DATAEXPORT_EXPORT CCommonUtils {
@@ -43,4 +45,11 @@ public:
     /// Sets the modification time of the file at `path`. `dateTime` is ISO 8601, with a T or a
     /// blank before the time, local where it names no zone; any other text changes nothing.
     static void onModifyDateTime(const QString& path, const QString& dateTime);
+
+    /// Reads the image at `path` by its content, whatever its name says, upright as its orientation
+    /// tells. False leaves `image` as it was.
+    static bool readThumbFileData(QImage& image, const QString& path);
+
+    /// The same; a null image where there is none to read.
+    static QImage safeloadImage(const QString& path);
 };

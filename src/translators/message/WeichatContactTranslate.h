@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class CIDataExporter;
+class CIProgressCallback;
+class PRData;
+class PRWeichatContactItem;
+
+/// Turns the selected contacts and rooms of a chat application into one output format. Made on the
+/// stack of a stage, lives for one run. The data set is not owned.
+class WeichatContactTranslate {
+public:
+    explicit WeichatContactTranslate(PRData* data) : m_data(data) {}
+    WeichatContactTranslate(const WeichatContactTranslate&) = delete;
+    WeichatContactTranslate& operator=(const WeichatContactTranslate&) = delete;
+    virtual ~WeichatContactTranslate();
+
+    /// Runs before anything else; false stops the export.
+    virtual bool prepare(
+        CIDataExporter* exporter, const QString& title, CIProgressCallback* progress) = 0;
+    virtual bool writeHeader(CIDataExporter* exporter) = 0;
+    virtual bool writeFooter(CIDataExporter* exporter) = 0;
+    virtual bool writeItem(CIDataExporter* exporter, PRWeichatContactItem* item) = 0;
+
+    /// Walks the selected records. False when something could not be written; a cancelled export is
+    /// not a failure. `progress` may be null.
+    bool translate(CIDataExporter* exporter, const QString& title, CIProgressCallback* progress);
+
+private:
+    PRData* m_data;
+};
