@@ -16,9 +16,11 @@
 #include "exporters/page_images.h"
 #include "exporters/page_text.h"
 #include "model/PRSMSItem.h"
-#include "platform/CCommonUtils.h"
 #include "platform/literals.h"
+#include "translators/message/DateLabel.h"
 #include "translators/message/bubble.h"
+#include "translators/message/bubble_style.h"
+#include "translators/message/labels.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -29,40 +31,16 @@
 
 namespace {
 
-constexpr QLatin1String kStyle = R"(
-html, div, body, p, form, img, h1, h2, input { margin:0 auto; padding:0; font:14px/160% Arial, Helvetica, sans-serif; color:#575757; }
-img, input { border:none; }
-#wrap { width:500px; background:#fff; }
-h1 { color:#333333; font-size:32px; font-weight:bold; text-align:center; padding-top:10px; }
-h2 { color:#333333; font-size:16px; padding-bottom:0px; padding-top:10px; }
-.main { overflow:hidden; clear:both; }
-.main p { color:#333333; text-align:center; font-size:12px; padding-top:10px; clear:both; }
-.main .event-msg { font-size:14px; }
-.main .cid { color:#2F85D0; padding-left:20px; text-align:left; font-size:14px; }
-.main-left { float:left; padding-top:10px; padding-bottom:20px; vertical-align:center; clear:both; }
-.main-right { float:right; padding-top:10px; padding-bottom:20px; clear:both; }
-.main-right-imsg { float:right; padding-top:10px; padding-bottom:20px; clear:both; }
-.main-left img { vertical-align:middle; }
-.main-right img { vertical-align:middle; }
-.main-right-imsg img { vertical-align:middle; }
-.msg-box .mid-c { max-width:230px; word-break:break-word; }
-)"_page;
-constexpr QLatin1String kTextColours = R"(
-.rm { color:#000; }
-.sm { color:#fff; }
-)"_page;
+constexpr std::array kSkins{kSentSkin, kSentIMessageSkin, kReceivedSkin};
 
-constexpr QLatin1String kConversationOpen = R"(<div class="main">)"_L1;
-constexpr QLatin1String kDateOpen = "<p>%1%2"_L1;
+constexpr QLatin1String kDateOpen = "<p>%1"_L1;
 constexpr QLatin1String kDateClose = "</p>"_L1;
 constexpr QLatin1String kEvent = R"(<p class="event-msg">%1</p>)"_L1;
-constexpr QLatin1String kSender = R"(<p class="cid">%1</p>)"_L1;
 constexpr QLatin1String kPictureRow = R"(
 <div class="%1">
     <table><tr>
         <td><img src="%2" /></td>
 )"_page;
-constexpr QLatin1String kConversationClose = "</div>"_L1;
 
 // Of pieces without a picture, by their type; the first one that fits.
 struct TypeIcon {
@@ -77,11 +55,6 @@ constexpr std::array kTypeIcons{
 };
 // clang-format on
 
-QString label(const char* source)
-{
-    return QCoreApplication::translate("DataExport", source);
-}
-
 // The lines between the messages: what the last of them showed, and their texts.
 class DateLines {
 public:
@@ -93,30 +66,20 @@ public:
         m_lastDate = date;
         m_lastNormal = message.isNormalSMS();
         if (dateChanged || kindChanged) {
-            page.add(kDateOpen, kindChanged ? kindLine(*m_lastNormal) : QString(),
-                escaped(m_label.first()));
-            drawDate(page, CCommonUtils::datetimeToMinute(date, true));
+            page.add(kDateOpen, kindChanged ? kindLine(*m_lastNormal) : QString());
+            m_label.draw(page, date);
             page.add(kDateClose);
         }
     }
 
 private:
-    // The label is cut at its places once: there are as many dates as messages.
-    void drawDate(Page& page, const QString& date) const
-    {
-        for (int i = 1; i < m_label.size(); ++i) {
-            page.add("%1%2"_L1, date, escaped(m_label.at(i)));
-        }
-    }
-
     QString kindLine(bool normal) const
     {
         return m_hyphens + (normal ? "SMS/MMS"_L1 : "iMessage"_L1) + m_hyphens + "<br>"_L1;
     }
 
     const QString m_hyphens = QString(55, QChar(u'-'));
-    const QStringList m_label =
-        label(QT_TRANSLATE_NOOP("DataExport", "Date: %1")).split(QStringLiteral("%1"));
+    const DateLabel m_label;
     QDateTime m_lastDate;
     std::optional<bool> m_lastNormal;
 };
@@ -164,7 +127,7 @@ public:
 
     void draw(const QMap<QString, QString>& names)
     {
-        drawSender(names);
+        drawGroupSender(names);
         if (!m_message.content().isEmpty()) {
             drawText(m_message.content());
         }
@@ -178,11 +141,11 @@ public:
 
 private:
     // Only a group needs to tell who speaks.
-    void drawSender(const QMap<QString, QString>& names)
+    void drawGroupSender(const QMap<QString, QString>& names)
     {
         if (names.size() > 1 && !m_look.fromMe) {
             const QString& address = m_message.addr();
-            m_page.add(kSender, escaped(names.value(address, address)));
+            drawSender(m_page, names.value(address, address));
         }
     }
 
@@ -236,7 +199,8 @@ private:
 
     void drawBubbleRow(const QString& text, const QString& icon)
     {
-        openBubbleRow(m_page, side(), m_look);
+        openBubbleSide(m_page, side(), m_look);
+        openBubbleRow(m_page, m_look);
         drawBubble(m_page, m_look, text, icon);
         drawFailureCell(m_page, m_look);
         closeBubbleRow(m_page);
@@ -268,14 +232,14 @@ void drawEvent(Page& page, const PRSMSChat& message, const PRSMSChatGroup& conve
 
 QString smsStyleSheet()
 {
-    Page sheet(R"(<style type="text/css">)"_L1);
-    sheet.add(kStyle);
-    for (const BubbleSkin& skin : {kSentSkin, kSentIMessageSkin, kReceivedSkin}) {
-        addSkinRules(sheet, skin);
-    }
-    sheet.add(kTextColours);
-    sheet.add("</style>"_L1);
-    return sheet.text();
+    return bubbleStyleSheet({.headingFont = "font-size:16px;"_L1,
+        .lineFont = "font-size:12px;"_L1,
+        .eventRule = ".main .event-msg { font-size:14px; }"_L1,
+        .sideRule = R"(
+            .main-right-imsg { float:right; padding-top:10px; padding-bottom:20px; clear:both; }
+        )"_page,
+        .sideImageRule = ".main-right-imsg img { vertical-align:middle; }"_L1,
+        .skins = kSkins});
 }
 
 bool CSMS2HtmlTranslate::prepare(
@@ -287,7 +251,7 @@ bool CSMS2HtmlTranslate::prepare(
 
 bool CSMS2HtmlTranslate::writeHeader(CIDataExporter* exporter)
 {
-    for (const BubbleSkin& skin : {kSentSkin, kSentIMessageSkin, kReceivedSkin}) {
+    for (const BubbleSkin& skin : kSkins) {
         copySkin(*exporter, skin);
     }
     for (const QLatin1String name :
@@ -317,10 +281,11 @@ bool CSMS2HtmlTranslate::writeItem(CIDataExporter* exporter, PRSMSItem* item)
     const PRSMSChatGroup& conversation = *item->detailContent();
     const bool deleted = item->flag(Deleted);
     const bool partial = item->flag(PartlySelected);
-    Page page(kConversationOpen);
-    drawHeading(page, {label(QT_TRANSLATE_NOOP("DataExport", "Name: %1")).arg(item->value(0)),
-                          label(QT_TRANSLATE_NOOP("DataExport", "Phone: %1")).arg(item->value(1)),
-                          label(QT_TRANSLATE_NOOP("DataExport", "Email: %1")).arg(item->value(2))});
+    Page page;
+    openConversation(
+        page, {label(QT_TRANSLATE_NOOP("DataExport", "Name: %1")).arg(item->value(0)),
+                  label(QT_TRANSLATE_NOOP("DataExport", "Phone: %1")).arg(item->value(1)),
+                  label(QT_TRANSLATE_NOOP("DataExport", "Email: %1")).arg(item->value(2))});
     DateLines dates;
     for (const PRSMSChat* message : conversation.chats()) {
         if (partial && !message->isChecked()) {
@@ -334,6 +299,6 @@ bool CSMS2HtmlTranslate::writeItem(CIDataExporter* exporter, PRSMSItem* item)
                 .draw(conversation.addrIds());
         }
     }
-    page.add(kConversationClose);
+    closeConversation(page);
     return exporter->write(page.text());
 }

@@ -12,10 +12,14 @@ constexpr int kLargestSide = 250; // pixels
 
 } // namespace
 
+QString PagePictures::takeName()
+{
+    return QStringLiteral("%1.png").arg(m_next++);
+}
+
 QString PagePictures::add(CIDataExporter& exporter, const QByteArray& png)
 {
-    const QString name = QStringLiteral("%1.png").arg(m_next);
-    ++m_next;
+    const QString name = takeName();
     exporter.exportData(png, name); // not tested: the page goes on without it
     return imagePath(name);
 }

@@ -12,6 +12,8 @@ class QImage;
 /// The pictures of a page as files beside it, numbered through the whole page: "0.png", "1.png".
 class PagePictures {
 public:
+    /// The name of the next one, which is spent by that.
+    QString takeName();
     /// Puts the file beside the page and returns its path, as the page links to it. A file that
     /// cannot be written leaves a dead link.
     QString add(CIDataExporter& exporter, const QByteArray& png);

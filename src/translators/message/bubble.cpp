@@ -16,7 +16,6 @@
 #include "exporters/CHtmlExporter.h"
 #include "exporters/page_images.h"
 #include "exporters/page_text.h"
-#include "platform/OvResourceMgr.h"
 
 namespace {
 
@@ -26,13 +25,15 @@ constexpr QLatin1String kPageTop = R"(
 )"_page;
 constexpr QLatin1String kPageBottom = "</div>"_L1;
 
+constexpr QLatin1String kConversationOpen = R"(<div class="main">)"_L1;
 constexpr QLatin1String kHeading = "<h2>%1&nbsp;&nbsp;%2&nbsp;&nbsp;%3</h2>"_L1;
 
-constexpr QLatin1String kRowOpen = R"(
-<div class="%1">
-    %2%3
-    <table class='%4'><tr>
-)"_page;
+constexpr QLatin1String kConversationClose = "</div>"_L1;
+
+constexpr QLatin1String kSender = R"(<p class="cid">%1</p>)"_L1;
+
+constexpr QLatin1String kSideOpen = R"(<div class="%1">%2)"_L1;
+constexpr QLatin1String kRowOpen = "<table class='%1'><tr>"_L1;
 constexpr QLatin1String kBubbleOpen = R"(
 <td>
     <table border="0" cellpadding="0" cellspacing="0" class="msg-box">
@@ -64,82 +65,7 @@ constexpr QLatin1String kSentDeletedMark =
 constexpr QLatin1String kReceivedDeletedMark =
     R"(<img src='image/del_msg_recv.png' style='top:3px;left:0px; position:relative;' />)"_L1;
 
-// One of the nine images that a skin is made of; the size of two of them differs by skin.
-enum class CellSize { None, TopLeft, TopRight, BottomLeft };
-struct SkinCell {
-    QLatin1String selector;
-    QLatin1String suffix;
-    QLatin1String repeat;
-    CellSize size = CellSize::None;
-};
-// clang-format off
-constexpr std::array kSkinCells{
-    SkinCell{".top-l"_L1, "top-l"_L1,    "no-repeat"_L1, CellSize::TopLeft},
-    SkinCell{".top-c"_L1, "top-c"_L1,    "repeat-x"_L1,  CellSize::None},
-    SkinCell{".top-r"_L1, "top-r"_L1,    "no-repeat"_L1, CellSize::TopRight},
-    SkinCell{".mid-l"_L1, "middle-l"_L1, "repeat-y"_L1,  CellSize::None},
-    SkinCell{".mid-c"_L1, "bg"_L1,       "repeat"_L1,    CellSize::None},
-    SkinCell{".mid-r"_L1, "middle-r"_L1, "repeat-y"_L1,  CellSize::None},
-    SkinCell{".bot-l"_L1, "bot-l"_L1,    "no-repeat"_L1, CellSize::BottomLeft},
-    SkinCell{".bot-c"_L1, "bot-c"_L1,    "repeat-x"_L1,  CellSize::None},
-    SkinCell{".bot-r"_L1, "bot-r"_L1,    "no-repeat"_L1, CellSize::None},
-};
-// clang-format on
-
-constexpr QLatin1String kSkinRule = "%1 %2 { background:url(%3/%4-%5.png) %6;%7 }"_L1;
-
-QLatin1String sizeOf(const SkinCell& cell, const BubbleSkin& skin)
-{
-    switch (cell.size) {
-    case CellSize::TopLeft:
-        return skin.topLeftSize;
-    case CellSize::TopRight:
-        return " width:18px;"_L1;
-    case CellSize::BottomLeft:
-        return skin.bottomLeftSize;
-    case CellSize::None:
-        break;
-    }
-    return ""_L1;
-}
-
 } // namespace
-
-// clang-format off
-const BubbleSkin kSentSkin{
-    ".main-right"_L1, "message"_L1, " height:13px; width:14px;"_L1, " height:14px;"_L1};
-const BubbleSkin kSentIMessageSkin{
-    ".main-right-imsg"_L1, "imessage"_L1, " height:13px; width:14px;"_L1, " height:14px;"_L1};
-const BubbleSkin kReceivedSkin{
-    ".main-left"_L1, "rmessage"_L1, " height:15px; width:14px;"_L1, " height:13px;"_L1};
-// clang-format on
-
-void addSkinRules(Page& sheet, const BubbleSkin& skin)
-{
-    for (const SkinCell& cell : kSkinCells) {
-        sheet.add(kSkinRule, skin.selector, cell.selector, kImageDirectory, skin.prefix,
-            cell.suffix, cell.repeat, sizeOf(cell, skin));
-    }
-}
-
-void copySkin(CIDataExporter& exporter, const BubbleSkin& skin)
-{
-    for (const SkinCell& cell : kSkinCells) {
-        copyPageImage(exporter, QStringLiteral("%1-%2.png").arg(skin.prefix, cell.suffix));
-    }
-}
-
-void copyPageImage(CIDataExporter& exporter, const QString& name)
-{
-    const QString source = QStringLiteral("%1/DataExport/%2")
-                               .arg(OvResourceMgr::instance()->productResourceRoot(), name);
-    exporter.copyDepend(source, name); // a missing image is no failure
-}
-
-void copyBrandImage(CIDataExporter& exporter, const QString& name)
-{
-    exporter.copyDepend(brandImageSource(name), name); // as above
-}
 
 bool writePageTop(CIDataExporter& exporter, const QString& title)
 {
@@ -153,15 +79,30 @@ bool writePageBottom(CIDataExporter& exporter)
     return exporter.write(kPageBottom);
 }
 
-void drawHeading(Page& page, const std::array<QString, 3>& texts)
+void openConversation(Page& page, const std::array<QString, 3>& texts)
 {
+    page.add(kConversationOpen);
     page.add(kHeading, escaped(texts[0]), escaped(texts[1]), escaped(texts[2]));
 }
 
-void openBubbleRow(Page& page, QLatin1String side, const BubbleLook& look, const QString& moreMarks)
+void closeConversation(Page& page)
 {
-    page.add(kRowOpen, side, look.fromMe && look.deleted ? kSentDeletedMark : ""_L1, moreMarks,
-        look.fromMe ? "sm"_L1 : "rm"_L1);
+    page.add(kConversationClose);
+}
+
+void drawSender(Page& page, const QString& name)
+{
+    page.add(kSender, escaped(name));
+}
+
+void openBubbleSide(Page& page, QLatin1String side, const BubbleLook& look)
+{
+    page.add(kSideOpen, side, look.fromMe && look.deleted ? kSentDeletedMark : ""_L1);
+}
+
+void openBubbleRow(Page& page, const BubbleLook& look)
+{
+    page.add(kRowOpen, look.fromMe ? "sm"_L1 : "rm"_L1);
 }
 
 void closeBubbleRow(Page& page)
