@@ -7,40 +7,56 @@
 #include "model/CSubProgress.h"
 #include "model/PRData.h"
 #include "platform/literals.h"
+#include "translators/contact/CContact2HtmlTranslate.h"
 #include "translators/message/CSMS2CSVTranslate.h"
 #include "translators/message/CSMS2HtmlTranslate.h"
+#include "translators/message/CWhatsapp2CSVTranslate.h"
+#include "translators/message/CWhatsapp2HtmlTranslate.h"
+#include "translators/message/WeichatContact2CSVTranslate.h"
+#include "translators/message/WeichatContact2HtmlTranslate.h"
 
 #include <QDir>
 
 namespace {
 
-bool writeSmsPage(PRSMSData* data, const QDir& dir, const QString& ownerName,
-    const QString& categoryName, CIProgressCallback* progress)
+// What all formats of one export are given.
+struct MessageExport {
+    const QDir& dir;
+    const QString& ownerName;
+    const QString& categoryName;
+    CIProgressCallback* progress = nullptr;
+};
+
+// Fills one output, in the sub-directory `sub` if it names one.
+template <typename Translator>
+bool writeOutput(const MessageExport& run, CIDataExporter& exporter, Translator& translator,
+    const QString& sub = {})
 {
-    CHtmlExporter exporter;
-    CSMS2HtmlTranslate translator(data);
-    exporter.setHeadText(smsStyleSheet());
-    progress->initRange(100);
-    const bool written =
-        exporter.openExport(dir, ownerName, categoryName)
-        && translator.translate(&exporter, exportTitle(ownerName, categoryName), progress);
+    const bool written = exporter.openExport(run.dir, run.ownerName, run.categoryName, sub)
+                         && translator.translate(
+                             &exporter, exportTitle(run.ownerName, run.categoryName), run.progress);
     exporter.closeExport(written);
     return written;
 }
 
-bool writeSmsCsv(PRSMSData* data, const QDir& dir, const QString& ownerName,
-    const QString& categoryName, CIProgressCallback* progress)
+template <typename Translator>
+bool writePage(
+    const MessageExport& run, PRData* data, const QString& styleSheet, const QString& sub = {})
+{
+    CHtmlExporter exporter;
+    Translator translator(data);
+    exporter.setHeadText(styleSheet);
+    return writeOutput(run, exporter, translator, sub);
+}
+
+template <typename Translator>
+bool writeCsv(
+    const MessageExport& run, PRData* data, const QString& codecName, const QString& sub = {})
 {
     CPlainFileExporter exporter(".csv"_L1, false);
-    exporter.setEncoding("UTF16"_L1, true);
-    progress->initRange(100);
-    bool written = false;
-    if (exporter.openExport(dir, ownerName, categoryName)) {
-        CSMS2CSVTranslate translator(data);
-        written = translator.translate(&exporter, exportTitle(ownerName, categoryName), progress);
-    }
-    exporter.closeExport(written);
-    return written;
+    exporter.setEncoding(codecName, true);
+    Translator translator(data);
+    return writeOutput(run, exporter, translator, sub);
 }
 
 } // namespace
@@ -49,36 +65,59 @@ bool CBackupExporter::exportSMS(PRData* data, const QDir& dir, const QString& ow
     const QString& categoryName, CIProgressCallback* progress, CBackupExporter* /*owner*/,
     bool /*convertHeic*/)
 {
-    auto* messages = dynamic_cast<PRSMSData*>(data);
-    if (messages == nullptr) {
+    if (dynamic_cast<PRSMSData*>(data) == nullptr) {
         return false;
     }
     CSubProgress sub(progress, stageShare(progress, 2));
-    bool written = writeSmsPage(messages, dir, ownerName, categoryName, &sub);
+    const MessageExport run{dir, ownerName, categoryName, &sub};
+    sub.initRange(100);
+    bool written = writePage<CSMS2HtmlTranslate>(run, data, smsStyleSheet());
     if (sub.finish() && written) {
-        written = writeSmsCsv(messages, dir, ownerName, categoryName, &sub);
+        sub.initRange(100);
+        written = writeCsv<CSMS2CSVTranslate>(run, data, "UTF16"_L1);
     }
     sub.finish(); // a cancel shows at the driver's own scale
     return written;
 }
 
-bool CBackupExporter::exportWhatsapp(PRData* /*data*/, const QDir& /*dir*/,
-    const QString& /*ownerName*/, const QString& /*categoryName*/, CIProgressCallback* /*progress*/,
-    CBackupExporter* /*owner*/, bool /*convertHeic*/)
+bool CBackupExporter::exportWhatsapp(PRData* data, const QDir& dir, const QString& ownerName,
+    const QString& categoryName, CIProgressCallback* progress, CBackupExporter* /*owner*/,
+    bool /*convertHeic*/)
 {
-    return false; // chats have no writer in this version; no directory is made for them
+    CSubProgress sub(progress, stageShare(progress, 2));
+    sub.initRange(100);
+    bool written = exportWhatsappHtml(data, dir, ownerName, categoryName, &sub, nullptr, true);
+    if (sub.finish() && written) {
+        sub.initRange(100);
+        const MessageExport run{dir, ownerName, categoryName, &sub};
+        written = writeCsv<CWhatsapp2CSVTranslate>(run, data, "UTF16"_L1);
+    }
+    sub.finish(); // a cancel shows at the driver's own scale
+    return written;
 }
 
-bool CBackupExporter::exportWhatsappHtml(PRData* /*data*/, const QDir& /*dir*/,
-    const QString& /*ownerName*/, const QString& /*categoryName*/, CIProgressCallback* /*progress*/,
-    CBackupExporter* /*owner*/, bool /*convertHeic*/)
+bool CBackupExporter::exportWhatsappHtml(PRData* data, const QDir& dir, const QString& ownerName,
+    const QString& categoryName, CIProgressCallback* progress, CBackupExporter* /*owner*/,
+    bool /*convertHeic*/)
 {
-    return false; // as for exportWhatsapp
+    const MessageExport run{dir, ownerName, categoryName, progress};
+    return writePage<CWhatsapp2HtmlTranslate>(run, data, chatStyleSheet());
 }
 
-bool CBackupExporter::exportWeichatContact(PRData* /*data*/, const QDir& /*dir*/,
-    const QString& /*ownerName*/, const QString& /*categoryName*/, CIProgressCallback* /*progress*/,
-    CBackupExporter* /*owner*/, bool /*convertHeic*/)
+bool CBackupExporter::exportWeichatContact(PRData* data, const QDir& dir, const QString& ownerName,
+    const QString& categoryName, CIProgressCallback* progress, CBackupExporter* /*owner*/,
+    bool /*convertHeic*/)
 {
-    return false; // as for exportWhatsapp
+    // A third for each of two formats: what is left of the scale is passed on at its end.
+    CSubProgress sub(progress, stageShare(progress, 3));
+    const MessageExport run{dir, ownerName, categoryName, &sub};
+    sub.initRange(100);
+    bool written = writePage<WeichatContact2HtmlTranslate>(
+        run, data, CContact2HtmlTranslate::styleSheet(), "HTML"_L1);
+    if (sub.finish() && written) {
+        sub.initRange(100);
+        written = writeCsv<WeichatContact2CSVTranslate>(run, data, "UTF-8"_L1, "CSV"_L1);
+    }
+    sub.finish(); // a cancel shows at the driver's own scale
+    return written;
 }

@@ -74,33 +74,27 @@ TEST_F(Cancel, WithAttachmentsIsSeenAgainAtTheirHeadAndLeavesOutTheFinish)
 {
     PRBackup backup;
     backup.add(smsSet(1));
-    backup.add(plainSet(14, 1));
-    backup.add(plainSet(15, 1));
-    expectRows(backup, {0, 14, 15},
+    backup.add(plainSet(15, 2));
+    expectRows(backup, {0, 15},
         {
             {"initRange 300, step 50*, step 0, step 0, step 50, step 0", 0, -1},
             {"initRange 300, step 50, step 0*, step 0, step 50, step 0", 1, -1},
             {"initRange 300, step 50, step 0, step 50*, step 0, step 0, step 0", 1, 0},
             {"initRange 300, step 50, step 0, step 50, step 0*, step 0, step 0", 1, 1},
             {"initRange 300, step 50, step 0, step 50, step 0, step 0*, step 0", 1, 1},
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100*, step 0", 1, 1},
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
-             "step 100*, step 0",
-                1, 1},
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
-             "step 100, step 0*",
-                1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200*, step 0", 1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200, step 0*", 1, 1},
             // From here on the run goes to its end.
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
-             "step 100, step 0, initRange 200, setAttachStage true, step 0*, "
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200, "
+             "step 0, initRange 200, setAttachStage true, step 0*, "
              "step 0, finish",
                 1, 1},
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
-             "step 100, step 0, initRange 200, setAttachStage true, step 0, "
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200, "
+             "step 0, initRange 200, setAttachStage true, step 0, "
              "step 0*, finish",
                 1, 1},
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 100, "
-             "step 100, step 0, initRange 200, setAttachStage true, step 0, "
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200, "
+             "step 0, initRange 200, setAttachStage true, step 0, "
              "step 0, finish",
                 1, 1},
         });
@@ -110,7 +104,7 @@ TEST_F(Cancel, OfAllTypesEndsBehindTheCategoryInHand)
 {
     PRBackup backup;
     for (int type = 0; type < 36; ++type) {
-        backup.add(plainSet(type, type + 1)); // one step a category
+        backup.add(plainSet(type, type + 1));
     }
     QStringList steps;
     for (const int type : kTableOrder) {
@@ -119,7 +113,8 @@ TEST_F(Cancel, OfAllTypesEndsBehindTheCategoryInHand)
         RecordingProgress progress(steps.size()); // at the end of this category
         EXPECT_TRUE(CBackupExporter().exportBackup(&backup, root(), &progress, false, "Anna"));
         const QStringList headOfAttachments{"step 0"};
-        EXPECT_EQ(progress.calls(), QStringList{"initRange 66600"} + steps + headOfAttachments);
+        EXPECT_EQ(roundedSteps(progress.calls()),
+            roundedSteps(QStringList{"initRange 66600"} + steps + headOfAttachments));
     }
 }
 

@@ -101,12 +101,49 @@ private:
 inline const QVector<int> kTableOrder{21, 22, 23, 2, 0, 1, 3, 29, 27, 28, 30, 31, 32, 33, 34, 5, 6,
     7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 24, 25, 26, 35, 4};
 
+/// "step 33.3333"
+inline QString stepText(double units)
+{
+    return QStringLiteral("step %1").arg(units);
+}
+
+/// The calls with their steps in whole thousandths: what is lost in dividing does not show.
+inline QStringList roundedSteps(QStringList calls)
+{
+    for (QString& call : calls) {
+        if (call.startsWith("step ")) {
+            call = stepText(qRound(call.midRef(5).toDouble() * 1000) / 1000.0);
+        }
+    }
+    return calls;
+}
+
+/// `formats` stages of `units` each, over all the records; what is left comes at the end.
+inline QStringList stepsOfStages(int formats, int units, int records)
+{
+    QStringList steps;
+    for (int format = 0; format < formats; ++format) {
+        for (int i = 0; i < records; ++i) {
+            steps.append(stepText(static_cast<double>(units) / records));
+        }
+        steps.append("step 0");
+    }
+    return steps + QStringList(stepText(100 * records - formats * units));
+}
+
 /// The steps that a category of plain records passes on: the pages of tables and of bookmarks take
-/// one for each record and one at their end, all others one for the whole.
+/// one for each record and one at their end, chats and chat contacts do so for each of two formats,
+/// all others one for the whole.
 inline QStringList stepsOf(int dataType, int records)
 {
+    if (QVector<int>{5, 7, 9, 11, 14, 17, 19}.contains(dataType)) {
+        return stepsOfStages(2, 100 * records / 2, records);
+    }
+    if (dataType == 16) {
+        return stepsOfStages(2, 100 * records / 3, records);
+    }
     if (!QVector<int>{3, 13, 27, 30, 33, 34}.contains(dataType)) {
-        return {QStringLiteral("step %1").arg(100 * records)};
+        return {stepText(100 * records)};
     }
     QStringList steps;
     for (int i = 0; i < records; ++i) {
