@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+// What is written once more when attachments were fetched.
+#include "driver/driver_fixture.h"
+#include "driver/fetch_run.h"
+#include "support/http_server.h"
+#include "support/log_messages.h"
+#include "support/recording_progress.h"
+
+#include <QBuffer>
+#include <QImage>
+
+namespace {
+
+using support::HttpServer;
+using support::RecordingProgress;
+
+/// A picture at an address and one that nobody wants, in one chat.
+class ChatsAgain : public DriverTest {
+protected:
+    ChatsAgain()
+    {
+        QImage picture(3, 2, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QBuffer png;
+        picture.save(&png, "PNG");
+        server.answer("/a", HttpServer::reply(200, png.data().toStdString()));
+        server.answer("/b", HttpServer::reply(200, png.data().toStdString()));
+        std::vector<PRWhatsappMsg> messages;
+        for (const char* path : {"/a", "/b"}) {
+            messages.emplace_back(ChatMessage{
+                .checked = std::string(path) == "/a", .type = 1, .media = server.address(path)});
+        }
+        RecordList records;
+        records.push_back(std::make_unique<PRWhatsappItem>(
+            Record{.values = {"Mia"}, .flags = PartlySelected}, std::move(messages)));
+        backup.add(std::make_unique<PRData>(14, std::move(records)));
+        // By now the first round is over: what it wrote is marked, to see what is replaced.
+        server.beforeAnswers([this](const std::string&) {
+            mark(kPage);
+            mark(kCsv);
+        });
+    }
+
+    void mark(const char* path) const
+    {
+        QFile file(root().filePath(path));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Append)) << path;
+        file.write("first round");
+    }
+
+    bool isOfFirstRound(const char* path) const { return contentsOf(path).endsWith("first round"); }
+
+    QString media(int message) const
+    {
+        auto* chat = dynamic_cast<PRWhatsappItem*>(backup.getPRData(14)->at(0, true));
+        return chat->detailContent()->messages().at(message)->media();
+    }
+
+    static constexpr const char* kPage = "WeChat/Anna's WeChat.html";
+    static constexpr const char* kCsv = "WeChat/Anna's WeChat.csv";
+    const support::LogMessages log;
+    HttpServer server;
+    PRBackup backup;
+};
+
+TEST_F(ChatsAgain, AreThePageAloneWithThePicture)
+{
+    CBackupExporter().exportBackup(&backup, root(), nullptr, {14}, false, "Anna");
+    EXPECT_EQ(letters(server.asked()), "a");
+    EXPECT_FALSE(isOfFirstRound(kPage));
+    EXPECT_TRUE(isOfFirstRound(kCsv));
+    EXPECT_FALSE(contentsOf(kPage).contains("image/picture.png")) << "the icon of a missing one";
+    const QStringList pictures = QDir(root().filePath("WeChat/image")).entryList(QDir::Files);
+    ASSERT_EQ(pictures.size(), 1);
+    EXPECT_TRUE(contentsOf(kPage).contains("image/" + pictures.first().toUtf8()));
+    EXPECT_EQ(QImage(root().filePath("WeChat/image/" + pictures.first())).size(), QSize(3, 2));
+    EXPECT_EQ(tree().filter(".html").size(), 1) << "in the place of the first one";
+}
+
+TEST_F(ChatsAgain, AreNotWrittenWhenNothingCouldBeFetched)
+{
+    server.answer("/a", HttpServer::reply(404, "not here"));
+    CBackupExporter().exportBackup(&backup, root(), nullptr, {14}, false, "Anna");
+    EXPECT_EQ(letters(server.asked()), "aaa");
+    EXPECT_TRUE(isOfFirstRound(kPage));
+    EXPECT_TRUE(contentsOf(kPage).contains("image/picture.png"));
+    EXPECT_EQ(media(0), server.address("/a"));
+}
+
+TEST_F(ChatsAgain, AreNotWrittenBehindACancelInTheLastStep)
+{
+    AnsweringProgress progress([this](int) { return server.asked().empty(); });
+    CBackupExporter().exportBackup(&backup, root(), &progress, {14}, false, "Anna");
+    EXPECT_TRUE(isOfFirstRound(kPage));
+    EXPECT_TRUE(QFileInfo(media(0)).isFile()) << "what was in hand stays in the record";
+}
+
+TEST_F(ChatsAgain, HaveTheirPicturesForALaterRun)
+{
+    CBackupExporter().exportBackup(&backup, root(), nullptr, {14}, false, "Anna");
+    const QString path = media(0);
+    EXPECT_TRUE(QFileInfo(path).isFile());
+    EXPECT_EQ(media(1), server.address("/b")) << "nobody wanted it";
+    CBackupExporter().exportBackup(&backup, root(), nullptr, {14}, false, "Anna");
+    EXPECT_EQ(letters(server.asked()), "a");
+    EXPECT_EQ(media(0), path);
+}
+
+TEST_F(ChatsAgain, FillTheScaleOfTheStage)
+{
+    RecordingProgress progress;
+    CBackupExporter().exportBackup(&backup, root(), &progress, {14}, false, "Anna");
+    const QStringList calls = progress.calls();
+    const int begin = calls.indexOf("setAttachStage true");
+    ASSERT_GT(begin, 0);
+    // One chat, one address; the head, the download, the page, and the head of the files.
+    EXPECT_EQ(joined(calls.mid(begin - 1)),
+        "initRange 200, setAttachStage true, step 0, step 100, step 100, step 0, finish");
+}
+
+TEST_F(ChatsAgain, AreNotWrittenForATypeThatIsNotWantedNotThereOrNotSelected)
+{
+    server.beforeAnswers({});
+    PRBackup unselected;
+    unselected.add(plainSet(14, 0, 2));
+    PRBackup without;
+    struct {
+        const char* what = nullptr;
+        PRBackup* backup = nullptr;
+        QVector<int> types;
+    } const rows[] = {
+        {"not wanted", &backup, {15}},
+        {"not there", &without, {14}},
+        {"not selected", &unselected, {14}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        PRWhatsappMsg message(ChatMessage{.media = server.address("/a")});
+        QList<PRWhatsappMsg*> messages{&message};
+        CBackupExporter exporter;
+        (exporter.*access_to::onDownloadChatAttach())(
+            messages, 14, row.backup, root(), "Anna", row.types, nullptr, false);
+        EXPECT_TRUE(QFileInfo(message.media()).isFile());
+        EXPECT_EQ(messages.size(), 1) << "the list of the caller stays as it is";
+        EXPECT_EQ(joined(tree()), "");
+    }
+}
+
+} // namespace
