@@ -7,6 +7,7 @@
 //   notes.json          the notes
 //   calls.json          the call history
 //   reminders.json      the reminders of two accounts
+//   calendar.json       the calendars of all accounts
 //   safari.json         bookmarks, reading list and history
 //   media/              files that messages carry, beside those that this program draws
 //   schema/             the definitions of the databases
@@ -14,6 +15,7 @@
 // The same sources give the same bytes.
 #include "maker/AddressBook.h"
 #include "maker/BackupWriter.h"
+#include "maker/Calendar.h"
 #include "maker/CallHistory.h"
 #include "maker/Conversations.h"
 #include "maker/Database.h"
@@ -117,6 +119,13 @@ void writeReminders(const Paths& paths, BackupWriter& backup)
     }
 }
 
+void writeCalendar(const Paths& paths, BackupWriter& backup)
+{
+    writeStore<sample::Calendar>(paths, "Calendar", "HomeDomain",
+        "Library/Calendar/Calendar.sqlitedb", sample::readJson(paths.sources + "/calendar.json"),
+        backup);
+}
+
 void writeSafari(const Paths& paths, BackupWriter& backup)
 {
     const QJsonObject source = sample::readJson(paths.sources + "/safari.json");
@@ -178,6 +187,7 @@ void makeBackup(const Paths& paths)
     writeNotes(paths, backup);
     writeCalls(paths, backup);
     writeReminders(paths, backup);
+    writeCalendar(paths, backup);
     writeSafari(paths, backup);
     writeOtherEntries(phone, backup);
     backup.writeIndex(paths.schema("Manifest"));

@@ -647,8 +647,118 @@
     </message>
     <message>
         <source>Marks</source>
-        <extracomment>Column of a table of reminders: Flagged, Repeats or both.</extracomment>
+        <extracomment>Column: of reminders Flagged, Repeats or both; of events Cancelled, Declined and the like.</extracomment>
         <translation>Marcas</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <extracomment>Column: where an event takes place.</extracomment>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>Starts</source>
+        <extracomment>Column: when an event begins.</extracomment>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Ends</source>
+        <extracomment>Column: when an event ends.</extracomment>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <extracomment>Column: the last day on which an event comes again.</extracomment>
+        <translation>Hasta</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <extracomment>Column: the calendar that an event belongs to; also the name of the one that each phone has.</extracomment>
+        <translation>Calendario</translation>
+    </message>
+    <message>
+        <source>Attendees</source>
+        <extracomment>Column: who else takes part in an event.</extracomment>
+        <translation>Asistentes</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <extracomment>Column: when the phone rings for an event.</extracomment>
+        <translation>Alerta</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>Cada día</translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>Cada semana</translation>
+    </message>
+    <message>
+        <source>Every month</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>Cada mes</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>Cada año</translation>
+    </message>
+    <message>
+        <source>Every %1 days</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>Cada %1 días</translation>
+    </message>
+    <message>
+        <source>Every %1 weeks</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>Cada %1 semanas</translation>
+    </message>
+    <message>
+        <source>Every %1 months</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>Cada %1 meses</translation>
+    </message>
+    <message>
+        <source>Every %1 years</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>Cada %1 años</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <extracomment>Answer to an invitation, beside a name or as a mark of an event.</extracomment>
+        <translation>Aceptado</translation>
+    </message>
+    <message>
+        <source>Declined</source>
+        <extracomment>Answer to an invitation, beside a name or as a mark of an event.</extracomment>
+        <translation>Rechazado</translation>
+    </message>
+    <message>
+        <source>Maybe</source>
+        <extracomment>Answer to an invitation, beside a name or as a mark of an event.</extracomment>
+        <translation>Quizás</translation>
+    </message>
+    <message>
+        <source>Organizer</source>
+        <extracomment>Beside the name of the person who invites to an event.</extracomment>
+        <translation>Organizador</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <extracomment>Mark of an event that does not take place.</extracomment>
+        <translation>Cancelado</translation>
+    </message>
+    <message>
+        <source>Tentative</source>
+        <extracomment>Mark of an event that is not yet certain.</extracomment>
+        <translation>Provisional</translation>
+    </message>
+    <message>
+        <source>Invitation</source>
+        <extracomment>Mark of an event that the owner of the phone was invited to and has not answered.</extracomment>
+        <translation>Invitación</translation>
     </message>
     <message>
         <source>Flagged</source>
@@ -657,7 +767,7 @@
     </message>
     <message>
         <source>Repeats</source>
-        <extracomment>Mark of a reminder: it comes again.</extracomment>
+        <extracomment>Mark of a reminder: it comes again. Also the column that tells how often an event does.</extracomment>
         <translation>Se repite</translation>
     </message>
     <message>

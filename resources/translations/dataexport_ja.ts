@@ -647,8 +647,118 @@
     </message>
     <message>
         <source>Marks</source>
-        <extracomment>Column of a table of reminders: Flagged, Repeats or both.</extracomment>
+        <extracomment>Column: of reminders Flagged, Repeats or both; of events Cancelled, Declined and the like.</extracomment>
         <translation>マーク</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <extracomment>Column: where an event takes place.</extracomment>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>Starts</source>
+        <extracomment>Column: when an event begins.</extracomment>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Ends</source>
+        <extracomment>Column: when an event ends.</extracomment>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <extracomment>Column: the last day on which an event comes again.</extracomment>
+        <translation>繰り返し終了</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <extracomment>Column: the calendar that an event belongs to; also the name of the one that each phone has.</extracomment>
+        <translation>カレンダー</translation>
+    </message>
+    <message>
+        <source>Attendees</source>
+        <extracomment>Column: who else takes part in an event.</extracomment>
+        <translation>出席者</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <extracomment>Column: when the phone rings for an event.</extracomment>
+        <translation>通知</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>毎日</translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>毎週</translation>
+    </message>
+    <message>
+        <source>Every month</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>毎月</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>毎年</translation>
+    </message>
+    <message>
+        <source>Every %1 days</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>%1日ごと</translation>
+    </message>
+    <message>
+        <source>Every %1 weeks</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>%1週間ごと</translation>
+    </message>
+    <message>
+        <source>Every %1 months</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>%1か月ごと</translation>
+    </message>
+    <message>
+        <source>Every %1 years</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>%1年ごと</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <extracomment>Answer to an invitation, beside a name or as a mark of an event.</extracomment>
+        <translation>出席</translation>
+    </message>
+    <message>
+        <source>Declined</source>
+        <extracomment>Answer to an invitation, beside a name or as a mark of an event.</extracomment>
+        <translation>欠席</translation>
+    </message>
+    <message>
+        <source>Maybe</source>
+        <extracomment>Answer to an invitation, beside a name or as a mark of an event.</extracomment>
+        <translation>仮承諾</translation>
+    </message>
+    <message>
+        <source>Organizer</source>
+        <extracomment>Beside the name of the person who invites to an event.</extracomment>
+        <translation>主催者</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <extracomment>Mark of an event that does not take place.</extracomment>
+        <translation>中止</translation>
+    </message>
+    <message>
+        <source>Tentative</source>
+        <extracomment>Mark of an event that is not yet certain.</extracomment>
+        <translation>仮の予定</translation>
+    </message>
+    <message>
+        <source>Invitation</source>
+        <extracomment>Mark of an event that the owner of the phone was invited to and has not answered.</extracomment>
+        <translation>招待</translation>
     </message>
     <message>
         <source>Flagged</source>
@@ -657,7 +767,7 @@
     </message>
     <message>
         <source>Repeats</source>
-        <extracomment>Mark of a reminder: it comes again.</extracomment>
+        <extracomment>Mark of a reminder: it comes again. Also the column that tells how often an event does.</extracomment>
         <translation>繰り返し</translation>
     </message>
     <message>

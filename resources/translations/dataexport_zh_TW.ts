@@ -647,8 +647,118 @@
     </message>
     <message>
         <source>Marks</source>
-        <extracomment>Column of a table of reminders: Flagged, Repeats or both.</extracomment>
+        <extracomment>Column: of reminders Flagged, Repeats or both; of events Cancelled, Declined and the like.</extracomment>
         <translation>標記</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <extracomment>Column: where an event takes place.</extracomment>
+        <translation>地點</translation>
+    </message>
+    <message>
+        <source>Starts</source>
+        <extracomment>Column: when an event begins.</extracomment>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Ends</source>
+        <extracomment>Column: when an event ends.</extracomment>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <extracomment>Column: the last day on which an event comes again.</extracomment>
+        <translation>重複截止</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <extracomment>Column: the calendar that an event belongs to; also the name of the one that each phone has.</extracomment>
+        <translation>行事曆</translation>
+    </message>
+    <message>
+        <source>Attendees</source>
+        <extracomment>Column: who else takes part in an event.</extracomment>
+        <translation>參與者</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <extracomment>Column: when the phone rings for an event.</extracomment>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Every day</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>每天</translation>
+    </message>
+    <message>
+        <source>Every week</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>每週</translation>
+    </message>
+    <message>
+        <source>Every month</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>每月</translation>
+    </message>
+    <message>
+        <source>Every year</source>
+        <extracomment>How often an event comes again.</extracomment>
+        <translation>每年</translation>
+    </message>
+    <message>
+        <source>Every %1 days</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>每%1天</translation>
+    </message>
+    <message>
+        <source>Every %1 weeks</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>每%1週</translation>
+    </message>
+    <message>
+        <source>Every %1 months</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>每%1個月</translation>
+    </message>
+    <message>
+        <source>Every %1 years</source>
+        <extracomment>%1 is a number from 2 on.</extracomment>
+        <translation>每%1年</translation>
+    </message>
+    <message>
+        <source>Accepted</source>
+        <extracomment>Answer to an invitation, beside a name or as a mark of an event.</extracomment>
+        <translation>已接受</translation>
+    </message>
+    <message>
+        <source>Declined</source>
+        <extracomment>Answer to an invitation, beside a name or as a mark of an event.</extracomment>
+        <translation>已拒絕</translation>
+    </message>
+    <message>
+        <source>Maybe</source>
+        <extracomment>Answer to an invitation, beside a name or as a mark of an event.</extracomment>
+        <translation>可能</translation>
+    </message>
+    <message>
+        <source>Organizer</source>
+        <extracomment>Beside the name of the person who invites to an event.</extracomment>
+        <translation>主辦人</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <extracomment>Mark of an event that does not take place.</extracomment>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Tentative</source>
+        <extracomment>Mark of an event that is not yet certain.</extracomment>
+        <translation>暫定</translation>
+    </message>
+    <message>
+        <source>Invitation</source>
+        <extracomment>Mark of an event that the owner of the phone was invited to and has not answered.</extracomment>
+        <translation>邀請</translation>
     </message>
     <message>
         <source>Flagged</source>
@@ -657,7 +767,7 @@
     </message>
     <message>
         <source>Repeats</source>
-        <extracomment>Mark of a reminder: it comes again.</extracomment>
+        <extracomment>Mark of a reminder: it comes again. Also the column that tells how often an event does.</extracomment>
         <translation>重複</translation>
     </message>
     <message>

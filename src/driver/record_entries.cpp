@@ -3,7 +3,11 @@
 #include "driver/CBackupExporter.h"
 #include "driver/stage.h"
 #include "exporters/CHtmlExporter.h"
+#include "exporters/CPlainFileExporter.h"
+#include "model/CSubProgress.h"
+#include "platform/literals.h"
 #include "translators/records/CBookmark2HtmlTranslate.h"
+#include "translators/records/CCalendar2IcsTranslate.h"
 #include "translators/records/CTable2HtmlTranslate.h"
 
 #include <QDir>
@@ -26,6 +30,20 @@ bool writePage(PRData* data, const QDir& dir, const QString& ownerName, const QS
     return written;
 }
 
+bool writeCalendar(PRData* data, const QDir& dir, const QString& ownerName,
+    const QString& categoryName, CIProgressCallback* progress)
+{
+    CPlainFileExporter exporter(".ics"_L1, false);
+    exporter.setEncoding("UTF-8"_L1, true);
+    bool written = false;
+    if (exporter.openExport(dir, ownerName, categoryName)) {
+        CCalendar2IcsTranslate translator(data);
+        written = translator.translate(&exporter, exportTitle(ownerName, categoryName), progress);
+    }
+    exporter.closeExport(written);
+    return written;
+}
+
 } // namespace
 
 bool CBackupExporter::exportHtml(PRData* data, const QDir& dir, const QString& ownerName,
@@ -42,9 +60,17 @@ bool CBackupExporter::exportBookmark(PRData* data, const QDir& dir, const QStrin
     return writePage<CBookmark2HtmlTranslate>(data, dir, ownerName, categoryName, progress);
 }
 
-bool CBackupExporter::exportCalendarIcs(PRData* /*data*/, const QDir& /*dir*/,
-    const QString& /*ownerName*/, const QString& /*categoryName*/, CIProgressCallback* /*progress*/,
-    CBackupExporter* /*owner*/, bool /*convertHeic*/)
+bool CBackupExporter::exportCalendarIcs(PRData* data, const QDir& dir, const QString& ownerName,
+    const QString& categoryName, CIProgressCallback* progress, CBackupExporter* /*owner*/,
+    bool /*convertHeic*/)
 {
-    return false; // events have no writer in this version; no directory is made for them
+    CSubProgress sub(progress, stageShare(progress, 2));
+    sub.initRange(100);
+    bool written = exportHtml(data, dir, ownerName, categoryName, &sub, nullptr, true);
+    const bool goesOn = sub.finish() && written;
+    if (goesOn) {
+        // On the scale that the page has used up: the rest is the caller's to pass on.
+        written = writeCalendar(data, dir, ownerName, categoryName, &sub);
+    }
+    return written;
 }

@@ -24,7 +24,7 @@ SKIPPED = 77
 BROWSERS = ("chromium", "chromium-browser", "google-chrome")
 PATIENCE = 120  # seconds for all pages together
 MESSAGES, NOTES = 0, 27
-TABLES = {3, 27, 30}
+TABLES = {3, 27, 29, 30}
 BOOKMARKS = {33, 34}
 
 # Opens page after page in a frame and reports what it sees.

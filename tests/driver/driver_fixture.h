@@ -131,13 +131,30 @@ inline QStringList stepsOfStages(int formats, int units, int records)
     return steps + QStringList(stepText(100 * records - formats * units));
 }
 
+/// The steps of a page and of a calendar behind it, which has the second half of the scale and does
+/// not move on it; the driver passes on the rest.
+inline QStringList stepsOfCalendar(int records)
+{
+    QStringList steps;
+    for (int i = 0; i < records; ++i) {
+        steps.append(stepText(50));
+    }
+    for (int i = 0; i < 1 + records; ++i) {
+        steps.append(stepText(0));
+    }
+    return steps + QStringList(stepText(50 * records));
+}
+
 /// The steps that a category of plain records passes on: the pages of tables and of bookmarks take
 /// one for each record and one at their end, chats and chat contacts do so for each of two formats,
-/// all others one for the whole.
+/// the calendar those above, all others one for the whole.
 inline QStringList stepsOf(int dataType, int records)
 {
     if (QVector<int>{5, 7, 9, 11, 14, 17, 19}.contains(dataType)) {
         return stepsOfStages(2, 100 * records / 2, records);
+    }
+    if (dataType == 29) {
+        return stepsOfCalendar(records);
     }
     if (dataType == 16) {
         return stepsOfStages(2, 100 * records / 3, records);

@@ -2,6 +2,7 @@
 #include "backup/container/LooseFiles.h"
 #include "backup/readers/AddressBook.h"
 #include "backup/readers/BookmarkData.h"
+#include "backup/readers/CalendarData.h"
 #include "backup/readers/CallData.h"
 #include "backup/readers/HistoryData.h"
 #include "backup/readers/MessageStore.h"
@@ -9,6 +10,7 @@
 #include "backup/readers/OldNoteStore.h"
 #include "backup/readers/OpenedBackup.h"
 #include "backup/readers/ReminderData.h"
+#include "backup/readers/calendar_rows.h"
 #include "backup/readers/call_rows.h"
 #include "backup/readers/note_data.h"
 #include "backup/readers/reminder_rows.h"
@@ -105,6 +107,11 @@ void addReminders(FoundDatabase found, OpenedBackup& opened)
     addToSet<ReminderData>(std::move(found), opened);
 }
 
+void addEvents(FoundDatabase found, OpenedBackup& opened)
+{
+    addToSet<CalendarData>(std::move(found), opened);
+}
+
 void addBookmarks(FoundDatabase found, OpenedBackup& opened)
 {
     addToSet<BookmarkData>(std::move(found), opened);
@@ -163,6 +170,7 @@ constexpr std::array kSources{
     SourceRow{"AppDomainGroup-group.com.apple.reminders"_L1, "Container_v1/Stores/*.sqlite"_L1, false, isReminderStore, addReminders},
     SourceRow{"HomeDomain"_L1, "Library/Reminders/Container_v1/Stores/*.sqlite"_L1, false, isReminderStore, addReminders},
     SourceRow{"HomeDomain"_L1, "Library/Calendar/Calendar.sqlitedb"_L1, false, isCalendarWithTasks, addReminders},
+    SourceRow{"HomeDomain"_L1, "Library/Calendar/Calendar.sqlitedb"_L1, false, isCalendar, addEvents},
     SourceRow{"HomeDomain"_L1, "Library/Safari/Bookmarks.db"_L1, false, BookmarkData::isBookmarkStore, addBookmarks},
     SourceRow{"HomeDomain"_L1, "Library/Safari/History.db"_L1, false, HistoryData::isHistory, addHistory},
     SourceRow{"HomeDomain"_L1, "Library/Safari/Profiles/*/History.db"_L1, false, HistoryData::isHistory, addHistory},

@@ -42,6 +42,30 @@ TEST_F(RealTables, CallsOfAHandMadeStoreAreRead)
             "Alex Fixture | +1 555 0100 | 2023-03-08 22:26 | 0:01:05 | Outgoing | Phone"}));
 }
 
+TEST_F(RealTables, CalendarMadeByHandIsRead)
+{
+    if (!open("databases/miniatures/calendar/testdata/calendar.1.Calendar.sqlitedb")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    // Of its five rows one is a birthday, one has a text for a date.
+    EXPECT_EQ(column(29, 0), QStringList({"Corrupt", "Team Sync", "Holiday", "Quick note"}));
+    EXPECT_EQ(
+        column(29, 2), QStringList({"", "2023-03-08 22:26", "2023-03-10", "2023-03-11 06:00"}));
+    EXPECT_EQ(lines(29).at(1).section(" | ", 4),
+        "Quarterly planning\nhttps://example.invalid/e1 | Every week |  | Work (iCloud)"
+        " | blair@example.invalid (Accepted), casey@example.invalid (Declined)"
+        " | 2023-03-08 22:11 | ");
+}
+
+TEST_F(RealTables, CalendarOfARealPhoneHasItsEvent)
+{
+    if (!open("backups/ios-14.3-manifest-mostly-absent")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    EXPECT_EQ(column(29, 0), QStringList("Super interesting meeting"));
+    EXPECT_EQ(notices("Calendar"), QStringList());
+}
+
 TEST_F(RealTables, RemindersOfHandMadeStoresAreRead)
 {
     if (!open("databases/miniatures/reminders/testdata/reminders.1.cloud.sqlite")) {
@@ -109,12 +133,19 @@ TEST_F(RealTables, BackupOfIos14Opens)
     EXPECT_EQ(notices("Stores"), QStringList());
 }
 
-TEST_F(RealTables, EventsOfACalendarAreNoReminders)
+TEST_F(RealTables, EventsOfAnOldCalendarAreReadAndAreNoReminders)
 {
     if (!open("databases/ios6-Calendar.sqlitedb")) {
         GTEST_SKIP() << "there is no " << m_file.toStdString();
     }
     EXPECT_EQ(lines(30), QStringList());
+    // 386,164,800 is 2013-03-28 12:00:00 UTC.
+    const QStringList events = lines(29);
+    ASSERT_EQ(events.size(), 13);
+    EXPECT_EQ(events.at(0),
+        "Kev event | Here | 2013-03-28 14:00 | 2013-03-29 14:00 |  |  |  | Calendar |  |  | ");
+    EXPECT_EQ(column(29, 1).mid(0, 2), QStringList({"Here", "There"}));
+    EXPECT_EQ(column(29, 4).filter("Event notes here").size(), 10);
     EXPECT_EQ(notices(""), QStringList());
 }
 
