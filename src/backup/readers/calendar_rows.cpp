@@ -207,10 +207,9 @@ Answer answerOf(qint64 status)
 void readInvitations(const TableReader& calendar, Surroundings& around)
 {
     enum Column : int { Owner, Type, Identity, Status, Self, Mail, Phone };
-    const std::array columns{WantedColumn{"owner_id"_L1, true},
-        WantedColumn{"entity_type"_L1, true}, WantedColumn{"identity_id"_L1},
-        WantedColumn{"status"_L1}, WantedColumn{"is_self"_L1}, WantedColumn{"email"_L1},
-        WantedColumn{"phone_number"_L1}};
+    const std::array columns{WantedColumn{"owner_id"_L1, true}, WantedColumn{"entity_type"_L1},
+        WantedColumn{"identity_id"_L1}, WantedColumn{"status"_L1}, WantedColumn{"is_self"_L1},
+        WantedColumn{"email"_L1}, WantedColumn{"phone_number"_L1}};
     const QHash<qint64, QString> names = readIdentities(calendar);
     calendar.read("Participant"_L1, columns, [&](const formats::Statement& row) {
         Invitation& invitation = around.invitations[row.integer(Owner)];
@@ -306,10 +305,11 @@ EventRow eventOf(const formats::Statement& row, const Surroundings& around, Zone
     return event;
 }
 
+// Since iOS 13 all rows are events, and some do not say so.
 bool isShown(const formats::Statement& row, const Surroundings& around)
 {
-    return row.integer(Type) == kEvent && row.integer(Hidden) == 0
-           && row.text(Scale) != kBirthdayScale
+    const bool isEvent = row.isNull(Type) || row.integer(Type) == kEvent;
+    return isEvent && row.integer(Hidden) == 0 && row.text(Scale) != kBirthdayScale
            && around.calendars.value(row.integer(Calendar)).isShown;
 }
 

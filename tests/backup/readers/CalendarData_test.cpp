@@ -194,9 +194,12 @@ TEST_F(CalendarDataTest, OnlyEventsOfThePersonAreThere)
         event(", summary", "8, 'found in text'"),
         "UPDATE CalendarItem SET calendar_id = 6 WHERE ROWID = 8",
         event(", summary", "9, 'no calendar'"),
-        "UPDATE CalendarItem SET calendar_id = 77 WHERE ROWID = 9"}));
-    EXPECT_EQ(column(kCalendar, 0), QStringList({"mine", "other scale", "no calendar"}));
-    EXPECT_EQ(column(kCalendar, 7), QStringList({"Home", "Home", ""}));
+        "UPDATE CalendarItem SET calendar_id = 77 WHERE ROWID = 9",
+        event(", summary", "10, 'of no kind'"),
+        "UPDATE CalendarItem SET entity_type = NULL WHERE ROWID = 10"}));
+    EXPECT_EQ(
+        column(kCalendar, 0), QStringList({"mine", "other scale", "no calendar", "of no kind"}));
+    EXPECT_EQ(column(kCalendar, 7), QStringList({"Home", "Home", "", "Home"}));
 }
 
 TEST_F(CalendarDataTest, CalendarHasItsAccountWhereThereAreSeveral)

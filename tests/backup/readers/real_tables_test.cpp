@@ -53,7 +53,7 @@ TEST_F(RealTables, CalendarMadeByHandIsRead)
         column(29, 2), QStringList({"", "2023-03-08 22:26", "2023-03-10", "2023-03-11 06:00"}));
     EXPECT_EQ(lines(29).at(1).section(" | ", 4),
         "Quarterly planning\nhttps://example.invalid/e1 | Every week |  | Work (iCloud)"
-        " | blair@example.invalid (Accepted), casey@example.invalid (Declined)"
+        " | Blair Invitee (Accepted), Casey Invitee (Declined)"
         " | 2023-03-08 22:11 | ");
 }
 
@@ -62,8 +62,10 @@ TEST_F(RealTables, CalendarOfARealPhoneHasItsEvent)
     if (!open("backups/ios-14.3-manifest-mostly-absent")) {
         GTEST_SKIP() << "there is no " << m_file.toStdString();
     }
-    EXPECT_EQ(column(29, 0), QStringList("Super interesting meeting"));
-    EXPECT_EQ(notices("Calendar"), QStringList());
+    // 703,502,100 is 2023-04-18 09:15:00 UTC. Most of its tables are missing.
+    EXPECT_EQ(lines(29), QStringList("Super interesting meeting |  | 2023-04-18 11:15"
+                                     " | 2023-04-18 12:15 | very very interesting things"
+                                     " |  |  |  |  |  | "));
 }
 
 TEST_F(RealTables, RemindersOfHandMadeStoresAreRead)
