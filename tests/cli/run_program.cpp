@@ -91,6 +91,16 @@ Outcome runProgramIn(
     return result(process);
 }
 
+Outcome runProgramIn(
+    const QString& folder, const QStringList& arguments, const std::function<void(int)>& began)
+{
+    QProcess process;
+    start(process, folder, arguments);
+    began(static_cast<int>(process.processId()));
+    EXPECT_TRUE(process.waitForFinished(kLimitMs));
+    return result(process);
+}
+
 Outcome interruptProgramIn(
     const QString& folder, const QStringList& arguments, const QByteArray& cue, int signal)
 {

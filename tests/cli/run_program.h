@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 /// What a run of the program left behind.
 struct Outcome {
     QByteArray output;
@@ -19,6 +21,10 @@ Outcome runProgramIn(const QString& folder, const QStringList& arguments);
 /// The same in another locale: LC_ALL is not set, and these variables are.
 Outcome runProgramIn(const QString& folder, const QStringList& arguments,
     const QMap<QString, QString>& localeVariables);
+
+/// The same; `began` gets the number of its process.
+Outcome runProgramIn(
+    const QString& folder, const QStringList& arguments, const std::function<void(int)>& began);
 
 /// The same; the first time that the program's errors hold `cue`, it gets the signal.
 Outcome interruptProgramIn(
