@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Opens the pages of the sample backup in a browser without a window.
+"""Opens the pages of the sample backup in a browser without a window, and those of chats and chat
+contacts of a record set.
 
-  pages_in_browser.py PROGRAM BACKUP
+  pages_in_browser.py PROGRAM BACKUP RECORDS
 
-The backup is exported and its records are dumped. Every page is then opened from a server on the
+Both are exported and their records are dumped. Every page is then opened from a server on the
 loopback address, and must show what the records hold: no missing image, no word on the console, and
 as many headings, bubbles, lines and rows. Exits with 77, and says why, where there is no browser.
 """
@@ -26,6 +27,7 @@ PATIENCE = 120  # seconds for all pages together
 MESSAGES, NOTES = 0, 27
 TABLES = {3, 27, 29, 30}
 BOOKMARKS = {33, 34}
+CHATS, CHAT_CONTACTS = 5, 16
 
 # Opens page after page in a frame and reports what it sees.
 WATCHER = """<!DOCTYPE html><meta charset="utf-8"><body><script>
@@ -46,7 +48,7 @@ async function look(address) {
         pictures: count(page, ".main-left > table:not([class]), .main-right > table:not([class])"),
         events: count(page, ".event-msg"), rows: count(page, ".main > table > tbody > tr"),
         heads: count(page, ".main > table > tbody > tr.dark"),
-        locked: count(page, "img[src*=crypted]"), deleted: count(page, "img[src*='deleted.png']"),
+        locked: count(page, "img[src*=crypted]"), cards: count(page, ".main-top"), deleted: count(page, "img[src*='deleted.png']"),
         width: page.documentElement.scrollWidth,
     };
 }
@@ -167,6 +169,22 @@ def expected_of_messages(records, folder):
     }
 
 
+def expected_of_chats(records, folder):
+    shown = [m for r in records for m in r.get("messages", [])
+             if m.get("checked", True) or not has_flag(r, 16)]
+    with_icon = {1, 2, 3, 4, 5, 8}
+    bubbles = [m for m in shown if m.get("type", 0) != 6 and (
+        m.get("content") or m.get("type", 0) in with_icon
+        or is_picture({"path": m.get("media")}, folder))]
+    return {"h1": 1, "h2": len(records), "bubbles": len(bubbles), "pictures": 0, "rows": 0}
+
+
+def expected_of_chat_contacts(records):
+    rows = [4 * len(r.get("members", [])) if r.get("room") else 8 for r in records]
+    return {"h1": 1, "h2": 0, "cards": len(records), "rows": sum(rows),
+            "deleted": sum(has_flag(record, 1) for record in records)}
+
+
 def has_flag(record, number):
     return number in record.get("flags", [])
 
@@ -191,18 +209,22 @@ def expected(data_set, folder):
     data_type, records = data_set["dataType"], data_set.get("records", [])
     if data_type == MESSAGES:
         return expected_of_messages(records, folder)
+    if data_type == CHATS:
+        return expected_of_chats(records, folder)
+    if data_type == CHAT_CONTACTS:
+        return expected_of_chat_contacts(records)
     if data_type in TABLES:
         return expected_of_table(records, data_type)
     return expected_of_bookmarks(records)
 
 
-def complaints(seen, wanted, out):
+def complaints(seen, wanted, work):
     """Differences between a page and its records."""
-    page = out / seen["address"].lstrip("/")
+    page = work / seen["address"].lstrip("/")
     for name, value in wanted.items():
         if seen[name] != value:
             yield f"{seen[name]} {name}, and the records hold {value}"
-    if seen["h2"] == 0 and seen["rows"] == 0:
+    if seen["h2"] + seen["rows"] + seen["cards"] == 0:
         yield "nothing is on it"
     for source in seen["broken"]:
         image = page.parent / unquote(source)
@@ -219,8 +241,26 @@ def names_of(program, folder):
     return {int(number): name for number, name in words}
 
 
+def exported_pages(program, source, out, wanted):
+    """Address of each page of the source -> the set that it shows."""
+    dump = out.with_suffix(".json")
+    run(program, "export", source, out, "--language", "en", "--quiet")
+    run(program, "dump", source, dump)
+    names = names_of(program, out.parent)
+    pages = {}
+    for data_set in json.loads(dump.read_text())["sets"]:
+        if data_set["dataType"] in wanted:
+            folder = out / names[data_set["dataType"]]
+            for page in sorted(folder.glob("**/*.html")):
+                pages["/" + str(page.relative_to(out.parent))] = data_set
+    without = wanted - {data_set["dataType"] for data_set in pages.values()}
+    if without:
+        sys.exit("there is no page of " + ", ".join(names[number] for number in sorted(without)))
+    return pages
+
+
 def main():
-    program, backup = sys.argv[1:3]
+    program, backup, records = sys.argv[1:4]
     browser = next(filter(None, map(shutil.which, BROWSERS)), None)
     if browser is None:
         print("skipped: there is no browser (./dev setup installs chromium)")
@@ -229,23 +269,12 @@ def main():
     failures = 0
     with tempfile.TemporaryDirectory() as folder:
         work = Path(folder)
-        out, dump = work / "out", work / "dump.json"
-        run(program, "export", backup, out, "--language", "en", "--quiet")
-        run(program, "dump", backup, dump)
-        sets = json.loads(dump.read_text())["sets"]
-        names = names_of(program, work)
-        pages = {}  # address -> the set that it shows
-        for data_set in sets:
-            for page in sorted((out / names[data_set["dataType"]]).glob("*.html")):
-                pages["/" + str(page.relative_to(out))] = data_set
-        for data_type in (MESSAGES, *sorted(TABLES | BOOKMARKS)):
-            if all(data_set["dataType"] != data_type for data_set in pages.values()):
-                failures += 1
-                print(f"{names[data_type]}: there is no page")
-
-        all_seen, missing, said = look_at(browser, out, [quote(page) for page in pages])
+        pages = exported_pages(
+            program, backup, work / "backup", {MESSAGES} | TABLES | BOOKMARKS)
+        pages |= exported_pages(program, records, work / "records", {CHATS, CHAT_CONTACTS})
+        all_seen, missing, said = look_at(browser, work, [quote(page) for page in pages])
         for seen in all_seen:
-            found = list(complaints(seen, expected(pages[seen["address"]], work), out))
+            found = list(complaints(seen, expected(pages[seen["address"]], work), work))
             failures += len(found)
             print(f"{seen['address']}: {'; '.join(found) or 'as the records hold it'}")
         for line in [f"asked for in vain: {path}" for path in missing] + said:
