@@ -943,6 +943,91 @@
         <extracomment>A day of the Chinese calendar, in a month that comes twice in its year.</extracomment>
         <translation>mese intercalare %1, giorno %2</translation>
     </message>
+    <message>
+        <source>Albums</source>
+        <extracomment>Column: the albums that a photo is in.</extracomment>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <extracomment>Type of a picture of the camera roll.</extracomment>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <extracomment>Type of a film of the camera roll.</extracomment>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Panorama</source>
+        <extracomment>Type of a photo.</extracomment>
+        <translation>Panorama</translation>
+    </message>
+    <message>
+        <source>Live Photo</source>
+        <extracomment>Type of a photo: a picture with a short film.</extracomment>
+        <translation>Live Photo</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <extracomment>Type of a photo.</extracomment>
+        <translation>Istantanea</translation>
+    </message>
+    <message>
+        <source>Slow motion</source>
+        <extracomment>Type of a film.</extracomment>
+        <translation>Slow motion</translation>
+    </message>
+    <message>
+        <source>Time-lapse</source>
+        <extracomment>Type of a film.</extracomment>
+        <translation>Time-lapse</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <extracomment>Mark of a photo.</extracomment>
+        <translation>Preferita</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <extracomment>Mark of a photo that the phone shows in the album of hidden ones only.</extracomment>
+        <translation>Nascosta</translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <extracomment>Mark of a photo: this is the version that its owner has edited.</extracomment>
+        <translation>Modificata</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <extracomment>Name of a file without its ending: the edited version of the photo %1.</extracomment>
+        <translation>%1 (modificata)</translation>
+    </message>
+    <message>
+        <source>Photos and videos of which the backup has small previews only: %1</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Foto e video di cui il backup contiene solo piccole anteprime: %1</translation>
+    </message>
+    <message>
+        <source>Photos and videos of the library that are not in the backup: %1</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Foto e video della libreria che non sono nel backup: %1</translation>
+    </message>
+    <message>
+        <source>Recordings that are not in the backup: %1</source>
+        <extracomment>%1 is a number; voice memos, or messages on the answering machine.</extracomment>
+        <translation>Registrazioni che non sono nel backup: %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <extracomment>Column: the app that a file belongs to.</extracomment>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <extracomment>Column: the directory of an app&apos;s file.</extracomment>
+        <translation>Posizione</translation>
+    </message>
 </context>
 <context>
     <name>ExportCSVFile_Google</name>

@@ -943,6 +943,91 @@
         <extracomment>A day of the Chinese calendar, in a month that comes twice in its year.</extracomment>
         <translation>윤%1월 %2일</translation>
     </message>
+    <message>
+        <source>Albums</source>
+        <extracomment>Column: the albums that a photo is in.</extracomment>
+        <translation>앨범</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <extracomment>Type of a picture of the camera roll.</extracomment>
+        <translation>사진</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <extracomment>Type of a film of the camera roll.</extracomment>
+        <translation>비디오</translation>
+    </message>
+    <message>
+        <source>Panorama</source>
+        <extracomment>Type of a photo.</extracomment>
+        <translation>파노라마</translation>
+    </message>
+    <message>
+        <source>Live Photo</source>
+        <extracomment>Type of a photo: a picture with a short film.</extracomment>
+        <translation>Live Photo</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <extracomment>Type of a photo.</extracomment>
+        <translation>스크린샷</translation>
+    </message>
+    <message>
+        <source>Slow motion</source>
+        <extracomment>Type of a film.</extracomment>
+        <translation>슬로 모션</translation>
+    </message>
+    <message>
+        <source>Time-lapse</source>
+        <extracomment>Type of a film.</extracomment>
+        <translation>타임랩스</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <extracomment>Mark of a photo.</extracomment>
+        <translation>즐겨찾는 항목</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <extracomment>Mark of a photo that the phone shows in the album of hidden ones only.</extracomment>
+        <translation>가려짐</translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <extracomment>Mark of a photo: this is the version that its owner has edited.</extracomment>
+        <translation>편집됨</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <extracomment>Name of a file without its ending: the edited version of the photo %1.</extracomment>
+        <translation>%1 (편집됨)</translation>
+    </message>
+    <message>
+        <source>Photos and videos of which the backup has small previews only: %1</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>백업에 작은 미리보기만 있는 사진 및 비디오: %1</translation>
+    </message>
+    <message>
+        <source>Photos and videos of the library that are not in the backup: %1</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>백업에 없는 보관함의 사진 및 비디오: %1</translation>
+    </message>
+    <message>
+        <source>Recordings that are not in the backup: %1</source>
+        <extracomment>%1 is a number; voice memos, or messages on the answering machine.</extracomment>
+        <translation>백업에 없는 녹음: %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <extracomment>Column: the app that a file belongs to.</extracomment>
+        <translation>앱</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <extracomment>Column: the directory of an app&apos;s file.</extracomment>
+        <translation>위치</translation>
+    </message>
 </context>
 <context>
     <name>ExportCSVFile_Google</name>

@@ -943,6 +943,91 @@
         <extracomment>A day of the Chinese calendar, in a month that comes twice in its year.</extracomment>
         <translation>mês intercalar %1, dia %2</translation>
     </message>
+    <message>
+        <source>Albums</source>
+        <extracomment>Column: the albums that a photo is in.</extracomment>
+        <translation>Álbuns</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <extracomment>Type of a picture of the camera roll.</extracomment>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <extracomment>Type of a film of the camera roll.</extracomment>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Panorama</source>
+        <extracomment>Type of a photo.</extracomment>
+        <translation>Panorâmica</translation>
+    </message>
+    <message>
+        <source>Live Photo</source>
+        <extracomment>Type of a photo: a picture with a short film.</extracomment>
+        <translation>Live Photo</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <extracomment>Type of a photo.</extracomment>
+        <translation>Captura de tela</translation>
+    </message>
+    <message>
+        <source>Slow motion</source>
+        <extracomment>Type of a film.</extracomment>
+        <translation>Câmera lenta</translation>
+    </message>
+    <message>
+        <source>Time-lapse</source>
+        <extracomment>Type of a film.</extracomment>
+        <translation>Lapso de tempo</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <extracomment>Mark of a photo.</extracomment>
+        <translation>Favorita</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <extracomment>Mark of a photo that the phone shows in the album of hidden ones only.</extracomment>
+        <translation>Oculta</translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <extracomment>Mark of a photo: this is the version that its owner has edited.</extracomment>
+        <translation>Editada</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <extracomment>Name of a file without its ending: the edited version of the photo %1.</extracomment>
+        <translation>%1 (editada)</translation>
+    </message>
+    <message>
+        <source>Photos and videos of which the backup has small previews only: %1</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Fotos e vídeos dos quais o backup tem apenas pequenas pré-visualizações: %1</translation>
+    </message>
+    <message>
+        <source>Photos and videos of the library that are not in the backup: %1</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>Fotos e vídeos da fototeca que não estão no backup: %1</translation>
+    </message>
+    <message>
+        <source>Recordings that are not in the backup: %1</source>
+        <extracomment>%1 is a number; voice memos, or messages on the answering machine.</extracomment>
+        <translation>Gravações que não estão no backup: %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <extracomment>Column: the app that a file belongs to.</extracomment>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <extracomment>Column: the directory of an app&apos;s file.</extracomment>
+        <translation>Local</translation>
+    </message>
 </context>
 <context>
     <name>ExportCSVFile_Google</name>

@@ -943,6 +943,91 @@
         <extracomment>A day of the Chinese calendar, in a month that comes twice in its year.</extracomment>
         <translation>闰%1月%2日</translation>
     </message>
+    <message>
+        <source>Albums</source>
+        <extracomment>Column: the albums that a photo is in.</extracomment>
+        <translation>相簿</translation>
+    </message>
+    <message>
+        <source>Photo</source>
+        <extracomment>Type of a picture of the camera roll.</extracomment>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <extracomment>Type of a film of the camera roll.</extracomment>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Panorama</source>
+        <extracomment>Type of a photo.</extracomment>
+        <translation>全景照片</translation>
+    </message>
+    <message>
+        <source>Live Photo</source>
+        <extracomment>Type of a photo: a picture with a short film.</extracomment>
+        <translation>实况照片</translation>
+    </message>
+    <message>
+        <source>Screenshot</source>
+        <extracomment>Type of a photo.</extracomment>
+        <translation>截屏</translation>
+    </message>
+    <message>
+        <source>Slow motion</source>
+        <extracomment>Type of a film.</extracomment>
+        <translation>慢动作</translation>
+    </message>
+    <message>
+        <source>Time-lapse</source>
+        <extracomment>Type of a film.</extracomment>
+        <translation>延时摄影</translation>
+    </message>
+    <message>
+        <source>Favourite</source>
+        <extracomment>Mark of a photo.</extracomment>
+        <translation>个人收藏</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <extracomment>Mark of a photo that the phone shows in the album of hidden ones only.</extracomment>
+        <translation>已隐藏</translation>
+    </message>
+    <message>
+        <source>Edited</source>
+        <extracomment>Mark of a photo: this is the version that its owner has edited.</extracomment>
+        <translation>已编辑</translation>
+    </message>
+    <message>
+        <source>%1 (edited)</source>
+        <extracomment>Name of a file without its ending: the edited version of the photo %1.</extracomment>
+        <translation>%1（已编辑）</translation>
+    </message>
+    <message>
+        <source>Photos and videos of which the backup has small previews only: %1</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>备份中只有小预览图的照片和视频：%1</translation>
+    </message>
+    <message>
+        <source>Photos and videos of the library that are not in the backup: %1</source>
+        <extracomment>%1 is a number.</extracomment>
+        <translation>图库中不在备份里的照片和视频：%1</translation>
+    </message>
+    <message>
+        <source>Recordings that are not in the backup: %1</source>
+        <extracomment>%1 is a number; voice memos, or messages on the answering machine.</extracomment>
+        <translation>不在备份中的录音：%1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <extracomment>Column: the app that a file belongs to.</extracomment>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <extracomment>Column: the directory of an app&apos;s file.</extracomment>
+        <translation>位置</translation>
+    </message>
 </context>
 <context>
     <name>ExportCSVFile_Google</name>

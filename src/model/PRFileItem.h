@@ -27,12 +27,11 @@ public:
     virtual void setFilePath(const QString& path) { m_content.path = path; }
     /// Looked up likewise.
     virtual QString thumbFilePath() const { return m_content.thumbFile; }
-    QString thumbnail() const { return m_content.thumbnail; }
-    // NOLINTNEXTLINE(readability-make-member-function-const): not const in the contract
+    virtual QString thumbnail() const { return m_content.thumbnail; }
     // NOLINTNEXTLINE(readability-make-member-function-const): the signature is agreed
     bool isThumbToMedia() { return m_content.thumbToMedia; }
     QString getDetailInfoDateTime() const { return m_content.detailDate; }
-    /// All but the paths, which only `filePath` and `thumbFilePath` know.
+    /// All but the paths, which only `filePath`, `thumbFilePath` and `thumbnail` know.
     const FileContent& contents() const { return m_content; }
 
 private:

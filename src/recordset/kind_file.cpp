@@ -22,6 +22,7 @@ FileContent contentsOf(PRFileItem& item)
     FileContent contents = item.contents();
     contents.path = item.filePath();
     contents.thumbFile = item.thumbFilePath();
+    contents.thumbnail = item.thumbnail();
     return contents;
 }
 

@@ -36,6 +36,9 @@ public:
     QString locate(const QString& domain, const QString& relativePath) const override;
     QStringList filesBelow(const QString& domain, const QString& directory) const override;
 
+    /// Names of the domains that begin with `begin`, in order.
+    QStringList domains(const QString& begin) const { return m_manifest.domains(begin); }
+
     /// Opens a database of the device, searched for in `domain` and then by its path in all others,
     /// where the path may stand at the end of a longer one. None where the manifest has no such
     /// file; an Error where it cannot be read.

@@ -46,6 +46,9 @@ const QString kBelow =
 const QString kOfDomain =
     kSelect + QStringLiteral("WHERE domain = ?1 AND flags = 1 ORDER BY relativePath");
 
+// Asked once for each domain: the index leads from one to the next.
+const QString kNextDomain = QStringLiteral("SELECT min(domain) FROM Files WHERE domain > ?1");
+
 QString shownName(const ManifestEntry& entry)
 {
     return entry.domain + QLatin1Char('/') + entry.relativePath;
@@ -130,6 +133,7 @@ Result<Manifest::Queries> Manifest::prepareQueries(const formats::Database& data
         {&queries.byEndInAnyDomain, kByEndInAnyDomain},
         {&queries.below, kBelow},
         {&queries.ofDomain, kOfDomain},
+        {&queries.nextDomain, kNextDomain},
     };
     for (const auto& [statement, text] : texts) {
         auto prepared = database.prepare(text);
@@ -179,6 +183,24 @@ QStringList Manifest::filesBelow(const QString& domain, const QString& directory
         query.reset();
     }
     return paths;
+}
+
+QStringList Manifest::domains(const QString& begin)
+{
+    Statement& query = m_queries.nextDomain;
+    QStringList names;
+    QString last = begin;
+    while (true) {
+        query.bind(1, last);
+        const QString next = query.next() ? query.text(0) : QString();
+        query.reset();
+        // A name that the last one does not precede would never end.
+        if (!next.startsWith(begin) || next <= last) {
+            return names;
+        }
+        names.append(next);
+        last = next;
+    }
 }
 
 std::optional<ManifestEntry> Manifest::nextEntry(Statement& query)

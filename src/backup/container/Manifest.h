@@ -43,6 +43,9 @@ public:
     /// `directory` is empty.
     QStringList filesBelow(const QString& domain, const QString& directory);
 
+    /// Names of the domains that begin with `begin`, in order.
+    QStringList domains(const QString& begin);
+
 private:
     struct Queries {
         formats::Statement byPath;
@@ -50,6 +53,7 @@ private:
         formats::Statement byEndInAnyDomain;
         formats::Statement below;
         formats::Statement ofDomain;
+        formats::Statement nextDomain;
     };
 
     Manifest(OpenedDatabase database, Queries queries, QString path, Notices& notices);

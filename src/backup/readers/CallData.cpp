@@ -3,6 +3,7 @@
 //   Mia  | +491715550101 | 2024-05-01 12:30 | 0:05:12  | Incoming | FaceTime Audio
 #include "backup/readers/CallData.h"
 
+#include "backup/readers/DeviceFileItem.h"
 #include "backup/readers/call_rows.h"
 #include "backup/readers/table_reader.h"
 #include "platform/CCommonUtils.h"
@@ -56,15 +57,6 @@ QString nameOfCaller(const Call& call, const SenderNames& names)
         all.append(nameOfAddress(address, names));
     }
     return all.isEmpty() ? tr("Unknown") : all.join(", "_L1);
-}
-
-// "0:05:12"
-QString durationText(qint64 seconds)
-{
-    return QStringLiteral("%1:%2:%3")
-        .arg(seconds / 3600)
-        .arg(seconds / 60 % 60, 2, 10, QChar(u'0'))
-        .arg(seconds % 60, 2, 10, QChar(u'0'));
 }
 
 QString typeText(CallType type)

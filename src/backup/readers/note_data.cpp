@@ -3,6 +3,7 @@
 //   Packing list   Travel / Norway 2024-04-30 18:02  2024-05-01 12:30  Rope, lamp, tea
 #include "backup/readers/note_data.h"
 
+#include "backup/readers/DeviceFileItem.h"
 #include "formats/cocoa_values.h"
 #include "model/PRFileItem.h"
 #include "platform/CCommonUtils.h"
@@ -20,8 +21,6 @@ namespace {
 constexpr int kNotes = 27;
 constexpr int kNoteFiles = 28;
 constexpr int kContentColumn = 4;
-// A directory's name may have 255 bytes, and a character of a title takes up to three.
-constexpr int kLongestDirectoryName = 80;
 
 QString tr(const char* text)
 {
@@ -115,17 +114,6 @@ QString folderName(const NoteEntry& note, bool withAccount)
 int flagsOf(const NoteEntry& note)
 {
     return (note.deleted ? Deleted : 0) | (note.locked ? Locked : 0);
-}
-
-// A record's parent is never "." or "..".
-QString directoryName(const QString& title)
-{
-    QString name = title.left(kLongestDirectoryName);
-    if (!name.isEmpty() && name.at(name.size() - 1).isHighSurrogate()) {
-        name.chop(1);
-    }
-    name = name.trimmed();
-    return name.isEmpty() || name == "."_L1 || name == ".."_L1 ? QStringLiteral("_") : name;
 }
 
 /// The list of files, made when it is first asked for.

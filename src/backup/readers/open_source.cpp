@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "backup/container/LooseFiles.h"
 #include "backup/readers/AddressBook.h"
+#include "backup/readers/AppFiles.h"
 #include "backup/readers/BookmarkData.h"
 #include "backup/readers/CalendarData.h"
 #include "backup/readers/CallData.h"
@@ -9,10 +10,15 @@
 #include "backup/readers/NoteStore.h"
 #include "backup/readers/OldNoteStore.h"
 #include "backup/readers/OpenedBackup.h"
+#include "backup/readers/PhotoLibrary.h"
 #include "backup/readers/ReminderData.h"
+#include "backup/readers/Ringtones.h"
+#include "backup/readers/VoiceMemos.h"
+#include "backup/readers/Voicemail.h"
 #include "backup/readers/calendar_rows.h"
 #include "backup/readers/call_rows.h"
 #include "backup/readers/note_data.h"
+#include "backup/readers/photo_rows.h"
 #include "backup/readers/reminder_rows.h"
 #include "backup/readers/safari_lists.h"
 #include "formats/plist.h"
@@ -122,6 +128,33 @@ void addHistory(FoundDatabase found, OpenedBackup& opened)
     addToSet<HistoryData>(std::move(found), opened);
 }
 
+void addVoiceMemos(FoundDatabase found, OpenedBackup& opened)
+{
+    addToSet<VoiceMemos>(std::move(found), opened, *opened.files);
+}
+
+void addVoicemail(FoundDatabase found, OpenedBackup& opened)
+{
+    const SenderNames& names = found.names;
+    addToSet<Voicemail>(std::move(found), opened, names, *opened.files);
+}
+
+void addPhotoLibrary(std::optional<NamedDatabase> database, OpenedBackup& opened)
+{
+    auto library =
+        std::make_unique<PhotoLibrary>(std::move(database), *opened.files, *opened.notices);
+    for (const int dataType :
+        {PhotoLibrary::kPhotos, PhotoLibrary::kShared, PhotoLibrary::kVideos}) {
+        opened.records.add(library->data(dataType));
+    }
+    opened.sources.push_back(std::move(library));
+}
+
+void addPhotos(FoundDatabase found, OpenedBackup& opened)
+{
+    addPhotoLibrary(NamedDatabase{.opened = std::move(found.database), .name = found.name}, opened);
+}
+
 // Beside the address book on the device, and beside a loose one.
 std::optional<formats::Result<OpenedDatabase>> openContactPictures(
     const FileLocator& files, Notices& notices)
@@ -175,6 +208,11 @@ constexpr std::array kSources{
     SourceRow{"HomeDomain"_L1, "Library/Safari/History.db"_L1, false, HistoryData::isHistory, addHistory},
     SourceRow{"HomeDomain"_L1, "Library/Safari/Profiles/*/History.db"_L1, false, HistoryData::isHistory, addHistory},
     SourceRow{"AppDomain-com.apple.mobilesafari"_L1, "Library/Safari/Profiles/*/History.db"_L1, false, HistoryData::isHistory, addHistory},
+    SourceRow{"CameraRollDomain"_L1, "Media/PhotoData/Photos.sqlite"_L1, false, isPhotoLibrary, addPhotos},
+    SourceRow{"AppDomainGroup-group.com.apple.VoiceMemos.shared"_L1, "Recordings/CloudRecordings.db"_L1, false, VoiceMemos::isRecordings, addVoiceMemos},
+    SourceRow{"MediaDomain"_L1, "Media/Recordings/CloudRecordings.db"_L1, false, VoiceMemos::isRecordings, addVoiceMemos},
+    SourceRow{"MediaDomain"_L1, "Media/Recordings/Recordings.db"_L1, false, VoiceMemos::isRecordings, addVoiceMemos},
+    SourceRow{"HomeDomain"_L1, "Library/Voicemail/voicemail.db"_L1, false, Voicemail::isVoicemail, addVoicemail},
 };
 
 /// A property list of an old release that fills a set which no database has filled.
@@ -256,6 +294,32 @@ void addFrom(const BackupFolder& device, const ListRow& source, OpenedBackup& op
     }
 }
 
+// Files without a database that tells of them, and those that never have one.
+void addFiles(const BackupFolder& device, OpenedBackup& opened)
+{
+    const auto isMissing = [&](int dataType) {
+        return opened.records.getPRData(dataType) == nullptr;
+    };
+    if (isMissing(PhotoLibrary::kPhotos) && PhotoLibrary::hasFiles(device)) {
+        addPhotoLibrary(std::nullopt, opened);
+    }
+    if (isMissing(VoiceMemos::kDataType) && VoiceMemos::hasFiles(device)) {
+        opened.records.add(std::make_unique<VoiceMemos>(device, *opened.notices));
+    }
+    if (isMissing(Voicemail::kDataType) && Voicemail::hasFiles(device)) {
+        opened.records.add(std::make_unique<Voicemail>(SenderNames(), device, *opened.notices));
+    }
+    opened.records.add(ringtones(device));
+    QStringList domains = AppFiles::domains(device, opened.records);
+    if (!domains.isEmpty()) {
+        auto files = std::make_unique<AppFiles>(device, std::move(domains));
+        for (const int dataType : AppFiles::kDataTypes) {
+            opened.records.add(files->data(dataType));
+        }
+        opened.sources.push_back(std::move(files));
+    }
+}
+
 // The rows that know a database, one for each kind of records in it.
 std::vector<const SourceRow*> rowsOf(const formats::Database& database)
 {
@@ -293,6 +357,7 @@ formats::Result<OpenedBackup> openBackupFolder(const QString& path)
     for (const ListRow& source : kLists) {
         addFrom(device, source, opened);
     }
+    addFiles(device, opened);
     return opened;
 }
 

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "backup/readers/OpenedBackup.h"
+#include "model/PRFileItem.h"
 #include "model/PRSafariBookmarkItem.h"
 #include "support/backup_builder.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -60,6 +62,32 @@ protected:
         QStringList shown;
         for (int row = 0; set != nullptr && row < set->count(1); ++row) {
             shown.append(set->value(row, number));
+        }
+        return shown;
+    }
+
+    const PRFileItem& file(int dataType, int row)
+    {
+        static const PRFileItem none;
+        const PRData* set = m_opened->records.getPRData(dataType);
+        const auto* item =
+            set != nullptr ? dynamic_cast<const PRFileItem*>(set->at(row, true)) : nullptr;
+        EXPECT_NE(item, nullptr) << "no file in row " << row;
+        return item != nullptr ? *item : none;
+    }
+
+    // "name < parent = contents"; no parent, no "<", a file that is missing "= -".
+    QStringList files(int dataType)
+    {
+        const PRData* set = m_opened->records.getPRData(dataType);
+        QStringList shown;
+        for (int row = 0; set != nullptr && row < set->count(1); ++row) {
+            const PRFileItem& item = file(dataType, row);
+            QFile contents(item.filePath());
+            const QString text =
+                contents.open(QIODevice::ReadOnly) ? QString::fromUtf8(contents.readAll()) : "-";
+            const QString parent = item.record().parent ? " < " + *item.record().parent : QString();
+            shown.append(item.value(0) + parent + " = " + text);
         }
         return shown;
     }
