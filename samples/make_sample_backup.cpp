@@ -9,6 +9,7 @@
 //   reminders.json      the reminders of two accounts
 //   calendar.json       the calendars of all accounts
 //   safari.json         bookmarks, reading list and history
+//   media.json          photos, voice memos, voicemail, files of apps
 //   media/              files that messages carry, beside those that this program draws
 //   schema/             the definitions of the databases
 //
@@ -21,9 +22,12 @@
 #include "maker/Database.h"
 #include "maker/MessageStore.h"
 #include "maker/NoteStore.h"
+#include "maker/PhotoLibrary.h"
 #include "maker/Reminders.h"
 #include "maker/Safari.h"
+#include "maker/VoiceRecordings.h"
 #include "maker/common.h"
+#include "maker/media.h"
 #include "maker/plist_writer.h"
 
 #include <QCoreApplication>
@@ -88,13 +92,13 @@ void writeNotes(const Paths& paths, BackupWriter& backup)
 }
 
 // A database that `maker` fills from a source and whose log was taken in before the backup.
-template <typename Maker>
+template <typename Maker, typename... Arguments>
 void writeStore(const Paths& paths, const QString& schema, const QString& domain,
-    const QString& path, const QJsonObject& source, BackupWriter& backup)
+    const QString& path, const QJsonObject& source, BackupWriter& backup, Arguments&&... arguments)
 {
     const QString scratch = paths.scratch + "/" + QFileInfo(path).fileName();
     Database database(scratch, paths.schema(schema), Database::Journal::WriteAheadLog);
-    Maker(database).write(source);
+    Maker(database, std::forward<Arguments>(arguments)...).write(source);
     database.checkpoint();
     backup.addFile(domain, path, database.mainFile());
 }
@@ -133,6 +137,21 @@ void writeSafari(const Paths& paths, BackupWriter& backup)
         paths, "SafariBookmarks", "HomeDomain", "Library/Safari/Bookmarks.db", source, backup);
     writeStore<sample::SafariHistory>(
         paths, "SafariHistory", "HomeDomain", "Library/Safari/History.db", source, backup);
+}
+
+void writeMedia(const Paths& paths, BackupWriter& backup)
+{
+    const QJsonObject source = sample::readJson(paths.sources + "/media.json");
+    writeStore<sample::PhotoLibrary>(paths, "Photos", "CameraRollDomain",
+        "Media/PhotoData/Photos.sqlite", source, backup, backup, paths.media());
+    writeStore<sample::VoiceMemos>(paths, "CloudRecordings", sample::VoiceMemos::kDomain,
+        "Recordings/CloudRecordings.db", source, backup, backup, paths.media());
+    writeStore<sample::Voicemail>(
+        paths, "Voicemail", "HomeDomain", "Library/Voicemail/voicemail.db", source, backup, backup);
+    for (const QJsonValue& file : sample::entriesOf(source["files"])) {
+        backup.addFile(file["domain"].toString(), file["path"].toString(),
+            sample::media(file["from"].toString(), paths.media()));
+    }
 }
 
 void writeOtherEntries(const QJsonObject& phone, BackupWriter& backup)
@@ -189,6 +208,7 @@ void makeBackup(const Paths& paths)
     writeReminders(paths, backup);
     writeCalendar(paths, backup);
     writeSafari(paths, backup);
+    writeMedia(paths, backup);
     writeOtherEntries(phone, backup);
     backup.writeIndex(paths.schema("Manifest"));
 

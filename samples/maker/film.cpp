@@ -18,6 +18,7 @@
 
 #include <QDataStream>
 
+#include <algorithm>
 #include <numeric>
 #include <vector>
 
@@ -106,20 +107,37 @@ QByteArray mediaAtom(const std::vector<QByteArray>& frames, quint32 firstFrameAt
     return atom("mdia", header + handler("mhlr", "vide") + information);
 }
 
-} // namespace
-
-QByteArray film()
+std::vector<QByteArray> framesOfTheBoat()
 {
     std::vector<QByteArray> frames;
     for (quint32 frame = 0; frame < kFrames; ++frame) {
         frames.push_back(jpeg(boat(static_cast<double>(frame) / kFrames)));
     }
+    return frames;
+}
+
+QByteArray filmOf(const std::vector<QByteArray>& frames)
+{
     const QByteArray type = atom("ftyp", QByteArray("qt  ") + numbers({0x20050300}) + "qt  ");
     const QByteArray data =
         atom("mdat", std::accumulate(frames.begin(), frames.end(), QByteArray()));
     const QByteArray track =
         atom("trak", trackHeader() + mediaAtom(frames, static_cast<quint32>(type.size() + 8)));
     return type + data + atom("moov", movieHeader() + track);
+}
+
+} // namespace
+
+QByteArray film()
+{
+    return filmOf(framesOfTheBoat());
+}
+
+QByteArray filmBackwards()
+{
+    std::vector<QByteArray> frames = framesOfTheBoat();
+    std::reverse(frames.begin(), frames.end());
+    return filmOf(frames);
 }
 
 } // namespace sample

@@ -36,6 +36,7 @@ constexpr std::array kMade{
     Made{"frida.jpg",  [] { return jpeg(portrait("#8d6e63", "#00897b", 480)); }},
     Made{"flower.png", [] { return png(flower()); }},
     Made{"boat.mov",   film},
+    Made{"boat-home.mov", filmBackwards},
     Made{"melody.caf", melody},
     Made{"ticket.pdf", ticket},
 };
@@ -45,6 +46,10 @@ constexpr std::array kMade{
 
 QByteArray media(const QString& name, const QString& directory)
 {
+    // "hills-7.jpg": one view of many
+    if (name.startsWith("hills-")) {
+        return jpeg(hills(name.section('-', 1).section('.', 0, 0).toInt()));
+    }
     const auto* const made =
         std::ranges::find_if(kMade, [&](const Made& file) { return name == file.name; });
     return made != kMade.end() ? made->make() : readFile(directory + "/" + name);

@@ -45,4 +45,11 @@ QByteArray melody()
     return bytes;
 }
 
+// Frames of 20 ms that hold no sound: 0 1111 1 00, quality bit set.
+QByteArray silence()
+{
+    constexpr char empty = 0x7c;
+    return "#!AMR\n" + QByteArray(100, empty);
+}
+
 } // namespace sample

@@ -273,6 +273,29 @@ QImage flower()
     return image;
 }
 
+QImage hills(int view)
+{
+    QImage image(640, 480, QImage::Format_RGB32);
+    Canvas canvas(image);
+    const auto tint = [view](int saturation, int value) {
+        return QColor::fromHsv((200 + view * 23) % 360, saturation, value);
+    };
+    canvas.falling({0, 0, 640, 300}, tint(90, 250), tint(30, 255));
+    canvas.ellipse(60 + view * 61 % 460, 40 + view * 17 % 70, 60, 60, "#fff59d");
+    for (int hill = 0; hill < 4; ++hill) {
+        const double peak = (view * 97 + hill * 190) % 640;
+        const double height = 130 + (view * 31 + hill * 57) % 110;
+        canvas.shape({{{peak - 230, 310}, {peak, 310 - height}, {peak + 230, 310}}},
+            tint(110 + hill * 20, 150 - hill * 25));
+    }
+    canvas.falling({0, 300, 640, 180}, tint(130, 190), tint(160, 90));
+    for (int wave = 0; wave < 8; ++wave) {
+        canvas.ellipse(
+            (view * 53 + wave * 149) % 600, 320 + wave * 19, 50 + wave * 6, 4, tint(40, 235));
+    }
+    return image;
+}
+
 QByteArray jpeg(const QImage& image)
 {
     return encoded(image, "JPEG", 80);

@@ -17,6 +17,8 @@ QImage sketch(); ///< a boat drawn with a finger, 500 x 360
 QImage page();   ///< a scanned sheet with lines of writing, 420 x 594
 /// A boat at sea, `step` from 0 to 1 of its way, 320 x 240.
 QImage boat(double step);
+/// A lake below mountains, another one for each `view`, 640 x 480.
+QImage hills(int view);
 /// Head and shoulders for an address book, `size` pixels wide and high.
 QImage portrait(const QColor& hair, const QColor& shirt, int size = 200);
 /// The mark of a shop, transparent around, 320 x 320.

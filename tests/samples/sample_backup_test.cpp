@@ -190,7 +190,9 @@ TEST(SampleBackup, HasSoundDatabases)
     for (const char* path : {"Library/SMS/sms.db", "Library/AddressBook/AddressBook.sqlitedb",
              "Library/AddressBook/AddressBookImages.sqlitedb",
              "Library/CallHistoryDB/CallHistory.storedata", "Container_v1/Stores/Data-local.sqlite",
-             "Library/Safari/Bookmarks.db", "Library/Safari/History.db"}) {
+             "Library/Safari/Bookmarks.db", "Library/Safari/History.db",
+             "Media/PhotoData/Photos.sqlite", "Recordings/CloudRecordings.db",
+             "Library/Voicemail/voicemail.db"}) {
         SCOPED_TRACE(path);
         const auto database = Database::open(rowOf(path).payload(), OpenMode::Immutable);
         ASSERT_TRUE(database);

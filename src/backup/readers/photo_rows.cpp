@@ -86,10 +86,10 @@ Photo photoOf(const formats::Statement& row)
         .isFilm = row.integer(Kind) == kFilm,
         .isTrashed = row.integer(Trashed) != 0,
         .isHidden = row.integer(Hidden) != 0,
-        .isFavourite = row.integer(Favourite) != 0,
-        .isShared = false,
-        .isShown = row.integer(Visibility) == 0};
+        .isFavourite = row.integer(Favourite) != 0};
     photo.isShared = row.integer(SavedType) == kOfSharedAlbum || isSharedDirectory(photo.directory);
+    // Those of shared albums are invisible among the owner's.
+    photo.isShown = row.integer(Visibility) == 0 || photo.isShared;
     return photo;
 }
 

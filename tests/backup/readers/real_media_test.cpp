@@ -53,7 +53,7 @@ TEST_F(RealMedia, LibraryOfTheKindOfIos16IsRead)
     EXPECT_EQ(photos.filter("Hidden").size(), 1);
     EXPECT_EQ(photos.filter("Pumpkin Farm").size(), 3);
     EXPECT_EQ(photos.filter("Pumkins1.jpg"),
-        QStringList("Pumkins1.jpg | Pumpkin Farm, Test Album | 2018-09-28 18:35 | Photo | "));
+        QStringList("Pumkins1.jpg | Pumpkin Farm, Test Album | 2018-09-28 21:35 | Photo | "));
 }
 
 TEST_F(RealMedia, NewIphonesHaveStoresWithNothingInThem)
