@@ -34,6 +34,19 @@ protected:
                 + messages + "]}]}]}");
     }
 
+    // The program gets the signal when it waits for the answer of this path.
+    Outcome interruptedAt(const std::string& path, int signal, const QStringList& arguments)
+    {
+        std::promise<int> process;
+        const std::shared_future<int> number = process.get_future().share();
+        server.beforeAnswers([number, signal, path](const std::string& asked) {
+            if (asked == path) {
+                ::kill(number.get(), signal);
+            }
+        });
+        return runProgramIn(tree.path(), arguments, [&process](int id) { process.set_value(id); });
+    }
+
     HttpServer server;
     support::TempTree tree;
 };
@@ -88,17 +101,9 @@ TEST_F(AttachmentTranscript, AnInterruptEndsThemBehindTheOneInHand)
 {
     for (const int signal : {SIGINT, SIGTERM}) {
         SCOPED_TRACE(signal);
-        std::promise<int> process;
-        std::shared_future<int> number = process.get_future().share();
-        server.beforeAnswers([number, signal](const std::string& path) {
-            if (path == "/3") {
-                ::kill(number.get(), signal);
-            }
-        });
         const std::size_t before = server.asked().size();
         const QString target = QString("out%1").arg(signal);
-        const Outcome cancelled = runProgramIn(tree.path(), {"export", "anna.json", target},
-            [&process](int id) { process.set_value(id); });
+        const Outcome cancelled = interruptedAt("/3", signal, {"export", "anna.json", target});
         EXPECT_EQ(server.asked().size() - before, 4); // "/0" to "/3"
         EXPECT_TRUE(cancelled.errors.endsWith(
             "dataexport: cancelled; what was written is kept in " + target.toUtf8() + "\n"))

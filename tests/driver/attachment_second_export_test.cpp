@@ -25,20 +25,24 @@ protected:
         picture.save(&png, "PNG");
         server.answer("/a", HttpServer::reply(200, png.data().toStdString()));
         server.answer("/b", HttpServer::reply(200, png.data().toStdString()));
-        std::vector<PRWhatsappMsg> messages;
-        for (const char* path : {"/a", "/b"}) {
-            messages.emplace_back(ChatMessage{
-                .checked = std::string(path) == "/a", .type = 1, .media = server.address(path)});
-        }
-        RecordList records;
-        records.push_back(std::make_unique<PRWhatsappItem>(
-            Record{.values = {"Mia"}, .flags = PartlySelected}, std::move(messages)));
-        backup.add(std::make_unique<PRData>(14, std::move(records)));
+        addChat({.checked = true, .type = 1, .media = server.address("/a")},
+            {.checked = false, .type = 1, .media = server.address("/b")});
         // By now the first round is over: what it wrote is marked, to see what is replaced.
         server.beforeAnswers([this](const std::string&) {
             mark(kPage);
             mark(kCsv);
         });
+    }
+
+    void addChat(const ChatMessage& first, const ChatMessage& second)
+    {
+        std::vector<PRWhatsappMsg> messages;
+        messages.emplace_back(first);
+        messages.emplace_back(second);
+        RecordList records;
+        records.push_back(std::make_unique<PRWhatsappItem>(
+            Record{.values = {"Mia"}, .flags = PartlySelected}, std::move(messages)));
+        backup.add(std::make_unique<PRData>(14, std::move(records)));
     }
 
     void mark(const char* path) const
@@ -91,6 +95,20 @@ TEST_F(ChatsAgain, AreNotWrittenBehindACancelInTheLastStep)
 {
     AnsweringProgress progress([this](int) { return server.asked().empty(); });
     CBackupExporter().exportBackup(&backup, root(), &progress, {14}, false, "Anna");
+    EXPECT_TRUE(isOfFirstRound(kPage));
+    EXPECT_TRUE(QFileInfo(media(0)).isFile()) << "what was in hand stays in the record";
+}
+
+TEST_F(ChatsAgain, AreNotWrittenWhenDownloadsAreCancelledBeforeTheLast)
+{
+    addChat({.media = server.address("/a")}, {.media = server.address("/b")});
+    CBackupExporter exporter;
+    server.beforeAnswers([this, &exporter](const std::string&) {
+        mark(kPage);
+        exporter.cancelDownload();
+    });
+    exporter.exportBackup(&backup, root(), nullptr, {14}, false, "Anna");
+    EXPECT_EQ(letters(server.asked()), "a");
     EXPECT_TRUE(isOfFirstRound(kPage));
     EXPECT_TRUE(QFileInfo(media(0)).isFile()) << "what was in hand stays in the record";
 }

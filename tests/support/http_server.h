@@ -216,7 +216,7 @@ public:
         m_port = ntohs(address.sin_port);
         for (int i = 0; i < 4; ++i) { // a queue of length 0 holds one or two
             m_sockets.push_back(::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0));
-            ::connect(m_sockets.back(), generic, size); // goes on by itself
+            static_cast<void>(::connect(m_sockets.back(), generic, size)); // goes on by itself
         }
     }
     FullPort(const FullPort&) = delete;
