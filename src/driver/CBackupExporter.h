@@ -5,6 +5,7 @@
 #include "platform/export.h"
 
 #include <QList>
+#include <QStringList>
 #include <QVector>
 
 class CIProgressCallback;
@@ -34,6 +35,10 @@ public:
     void setFromDFU(bool fromDFU) { m_fromDFU = fromDFU; }
     /// Whether contacts take their Tavero form.
     void setExportContactForTavero(bool forTavero) { m_exportContactForTavero = forTavero; }
+
+    /// The HEIC pictures of which no JPEG could be made, since the object was made: paths of their
+    /// copies.
+    const QStringList& unconvertedPictures() const { return m_unconvertedPictures; }
 
     /// Skips all downloads that have not begun, now and for the life of the object.
     void cancelDownload();
@@ -100,4 +105,5 @@ private:
     OvCurlWrapper m_curl;              // one for all attachments, asked for its code after each
     bool m_stopLoop = false;
     bool m_cancelled = false; // never reset: an exporter once cancelled skips all later downloads
+    QStringList m_unconvertedPictures;
 };

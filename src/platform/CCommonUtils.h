@@ -9,8 +9,8 @@
 
 class QImage;
 
-/// Dates, file names and files, as all exporters write them. Readers of backups stand outside the
-/// library and have dates written in the same way.
+/// Dates, file names, files and images, as all exporters write them. Readers of backups stand
+/// outside the library and have dates written in the same way.
 class DATAEXPORT_EXPORT CCommonUtils {
 public:
     /// Start of 2001 in UTC plus `seconds`, to the millisecond. Invalid for what is no number or
@@ -46,10 +46,19 @@ public:
     /// blank before the time, local where it names no zone; any other text changes nothing.
     static void onModifyDateTime(const QString& path, const QString& dateTime);
 
-    /// Reads the image at `path` by its content, whatever its name says, upright as its orientation
-    /// tells. False leaves `image` as it was.
-    static bool readThumbFileData(QImage& image, const QString& path);
-
-    /// The same; a null image where there is none to read.
+    /// The image in the file at `path`, told by its content whatever its name says, HEIC included,
+    /// turned upright. Null where there is none.
     static QImage safeloadImage(const QString& path);
+
+    /// The same into `image`. False leaves `image` as it was.
+    static bool readThumbFileData(QImage& image, const QString& src);
+
+    /// Writes the HEIC picture at `src` as a JPEG to `target`, upright and with its Exif. The flag
+    /// is of no effect. False leaves no file, nor a part of one: the picture cannot be decoded, or
+    /// `target` not be written. A build without libheif always reports false.
+    static bool convertHEICFileToJPG(const QString& src, QString& target, bool flag);
+
+    /// Called with false before a medium of a protected backup is read, and with true after it.
+    /// Nothing has to be done on the systems that we serve.
+    static void protectMediaFile(const QString& path, bool protect);
 };

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MIT
+// The first 20 bytes of a file, in capitals, tell its kind by what they hold, wherever it stands:
+//   ....FTYPHEIC          HEIC, which comes out as it is, and on request as JPEG too
+//   ......JFIF, ..EXIF    JPEG
+//   GIF8  .PNG  RIFF....WEBP  BPLIST00
+// Chance finds count: a name may get more than one suffix.
+#include "exporters/CFileExporter.h"
+
+#include "exporters/escape.h"
+#include "model/CIProgressCallback.h"
+#include "platform/CCommonUtils.h"
+#include "platform/JpegMarkers.h"
+#include "platform/Log.h"
+#include "platform/OvCurlWrapper.h"
+#include "platform/jpeg_verdict.h"
+#include "platform/literals.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+
+#include <array>
+
+namespace {
+
+constexpr int kHeaderSize = 20;
+constexpr qint64 kChunkSize = 16'384;
+
+struct FileKind {
+    std::array<const char*, 2> marks{}; ///< either of them
+    QLatin1String suffix;
+    QLatin1String otherSuffix; ///< serves as well
+};
+
+// clang-format off
+constexpr FileKind kJpeg{{"EXIF", "JFIF"}, "jpg"_L1, "jpeg"_L1};
+constexpr std::array kFileKinds{
+    kJpeg,
+    FileKind{{"GIF", "GIF"},       "gif"_L1,   "gif"_L1},
+    FileKind{{"PNG", "PNG"},       "png"_L1,   "png"_L1},
+    FileKind{{"WEBP", "WEBP"},     "webp"_L1,  "webp"_L1},
+    // In capitals the first cannot be found; it names the kind as its files spell it.
+    FileKind{{"bplist", "BPLIST"}, "plist"_L1, "plist"_L1},
+};
+// clang-format on
+
+bool holds(const QByteArray& header, const FileKind& kind)
+{
+    return header.contains(kind.marks[0]) || header.contains(kind.marks[1]);
+}
+
+// The name with the suffixes of all kinds that the header tells of and the name itself does not.
+QString namedByContent(const QString& name, const QByteArray& header)
+{
+    const QString suffix = QFileInfo(name).suffix().toLower();
+    QString named = name;
+    for (const FileKind& kind : kFileKinds) {
+        if (holds(header, kind) && suffix != kind.suffix && suffix != kind.otherSuffix) {
+            named += "."_L1 + kind.suffix;
+        }
+    }
+    return named;
+}
+
+// An empty path is a missing file; Qt would warn of it.
+bool openToRead(QFile& file)
+{
+    return !file.fileName().isEmpty() && file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+}
+
+} // namespace
+
+CFileExporter::CFileExporter() : m_dir(QDir(QString()))
+{
+}
+
+bool CFileExporter::write(const QString& src, QString& name)
+{
+    QFile source(src);
+    if (!openToRead(source)) {
+        return false;
+    }
+    const QByteArray header = source.read(kHeaderSize).toUpper();
+    const bool toConvert = m_convertHeic && header.contains("HEIC");
+    const bool converted = toConvert && convertHeic(src, name);
+    bool written = converted;
+
+    const bool isJpeg = holds(header, kJpeg);
+    JpegMarkers markers;
+    Copy copy = Copy::Failed;
+    QFile target(uniquePath(namedByContent(name, header)));
+    source.seek(0);
+    // Not buffered, so that a full disk shows at the chunk that does not fit.
+    if (target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        copy = copyContents(source, target, isJpeg ? &markers : nullptr);
+        written = copy != Copy::Failed;
+        name = target.fileName();
+    }
+    if (isJpeg) {
+        // Of a copy that was taken away the markers say nothing.
+        written = copy == Copy::Whole ? loadsAsImage(name, markers) : !QImage(name).isNull();
+    }
+    if (toConvert && !converted) {
+        m_unconverted.append(name);
+    }
+    return written;
+}
+
+bool CFileExporter::convertHeic(const QString& src, const QString& name) const
+{
+    QString path = uniquePath(QFileInfo(name).completeBaseName() + ".jpg"_L1);
+    Log("HEIC", 1, "HEIC file: %s", src.toUtf8().constData());
+    return CCommonUtils::convertHEICFileToJPG(src, path, false);
+}
+
+// A copy that is not whole is taken away.
+CFileExporter::Copy CFileExporter::copyContents(
+    QFile& source, QFile& target, JpegMarkers* markers) const
+{
+    const Copy copy = copyChunks(source, target, markers);
+    target.close();
+    if (copy != Copy::Whole) {
+        target.remove();
+    }
+    return copy;
+}
+
+CFileExporter::Copy CFileExporter::copyChunks(
+    QFile& source, QFile& target, JpegMarkers* markers) const
+{
+    std::array<char, kChunkSize> chunk; // NOLINT(cppcoreguidelines-pro-type-member-init): read into
+    for (;;) {
+        const qint64 size = source.read(chunk.data(), kChunkSize);
+        if (size == 0) {
+            return Copy::Whole;
+        }
+        if (size < 0 || target.write(chunk.data(), size) != size) {
+            return Copy::Failed;
+        }
+        if (markers != nullptr) {
+            markers->add(chunk.data(), size);
+        }
+        if (m_progress != nullptr && !m_progress->step(static_cast<double>(size))) {
+            return Copy::Cancelled;
+        }
+    }
+}
+
+bool CFileExporter::exportData(const QByteArray& data, const QString& name)
+{
+    QFile target(uniquePath(name));
+    bool written = false;
+    if (target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        written = target.write(data) == data.size();
+        target.close();
+        if (!written) {
+            target.remove();
+        }
+    }
+    if (m_progress != nullptr) {
+        m_progress->step(data.size()); // a cancel is seen before the next record
+    }
+    return written;
+}
+
+bool CFileExporter::exportThumbData(const QString& src, const QString& name)
+{
+    QImage image;
+    CCommonUtils::readThumbFileData(image, src); // the image tells
+    return !image.isNull() && image.save(uniquePath(name));
+}
+
+bool CFileExporter::exportHttpData(const QString& url, const QString& localPath)
+{
+    if (localPath.isEmpty()) {
+        return true;
+    }
+    const QFileInfo local(localPath);
+    const QString path = uniquePath(local.exists() ? local.fileName() : QString());
+    OvCurlWrapper curl;
+    curl.download(url, path, true); // what came of it shows in the file
+    if (QFile::exists(localPath) && QFile::remove(localPath)) {
+        QFile::copy(path, localPath); // without it there is no local file, which callers bear
+    }
+    return true;
+}
+
+bool CFileExporter::copyDepend(const QString& /*src*/, const QString& /*name*/)
+{
+    return true;
+}
+
+bool CFileExporter::beginFile(const QDir& dir)
+{
+    m_dir = dir;
+    return true;
+}
+
+bool CFileExporter::endFile(bool /*ok*/)
+{
+    return true;
+}
+
+bool CFileExporter::enterDir(const QString& name)
+{
+    const auto known = m_dirNames.constFind(name);
+    if (known != m_dirNames.constEnd()) {
+        return m_dir.cd(*known);
+    }
+    const QString directory = safeFileName(name);
+    // Such a name would lead to where we are, or out of the category.
+    if (directory.isEmpty() || directory == "."_L1 || directory == ".."_L1) {
+        return false;
+    }
+    if (!QFileInfo(m_dir.filePath(directory)).isDir() && !m_dir.mkdir(directory)) {
+        return false;
+    }
+    m_dirNames.insert(name, directory);
+    return m_dir.cd(directory);
+}
+
+void CFileExporter::leaveDir()
+{
+    m_dir.cdUp();
+}
+
+QString CFileExporter::uniquePath(const QString& name) const
+{
+    const QFileInfo safe(safeFileName(name));
+    const QString suffix = safe.suffix();
+    return CCommonUtils::uniqFileName(
+        m_dir, safe.completeBaseName(), suffix.isEmpty() ? suffix : "."_L1 + suffix);
+}
