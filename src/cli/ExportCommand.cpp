@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //   Messages  12  out/Messages
 //   Exported 12 records in 0.4 s
+//   Could not be written as JPEG, and are copied as they are:
+//     out/Photos/IMG_0001.HEIC
 #include "cli/ExportCommand.h"
 
 #include "cli/ExportProgress.h"
@@ -56,6 +58,20 @@ bool wasWritten(const QString& target, int dataType)
     return dataType == kContacts ? folder.exists("HTML"_L1) : folder.exists();
 }
 
+// The pictures stand in the summary as their categories do, by the target as it was given.
+QStringList unconvertedLines(const QString& target, const QStringList& paths)
+{
+    if (paths.isEmpty()) {
+        return {};
+    }
+    QStringList lines{"Could not be written as JPEG, and are copied as they are:"_L1};
+    const QDir folder(target);
+    for (const QString& path : paths) {
+        lines.append("  "_L1 + folder.filePath(folder.relativeFilePath(path)));
+    }
+    return lines;
+}
+
 } // namespace
 
 ExportCommand::ExportCommand(CLI::App& program, Console& console)
@@ -75,7 +91,7 @@ void ExportCommand::addOptions()
         ->option_text("NAME");
     command.add_option("--only", m_only, "These categories alone: names or numbers, with commas")
         ->option_text("LIST");
-    command.add_flag("--heic-to-jpg", m_heicToJpg, "Write HEIC pictures as JPEG");
+    command.add_flag("--heic-to-jpg", m_heicToJpg, "Write HEIC pictures as JPEG too");
     command.add_flag("--tavero", m_tavero, "Write contacts in the form for Tavero");
     command.add_option("--resources", m_resources, "The folder with the images of the pages")
         ->option_text("DIR");
@@ -171,7 +187,7 @@ int ExportCommand::exportSource(const Request& request, Source& source)
         return NotStarted;
     }
 
-    CBackupExporter exporter;
+    CBackupExporter exporter; // a new one, so that what it did not convert is of this run
     exporter.setExportContactForTavero(m_tavero);
     const Clock clock = steadyClock();
     const qint64 began = clock();
@@ -190,7 +206,8 @@ int ExportCommand::exportSource(const Request& request, Source& source)
         addOtherSpelling(categoryFolder(request.target, kNotes));
     }
     return wasCancelled ? tellCancelled(request, plan)
-                        : tellResult(request, plan, source.records(), clock() - began);
+                        : tellResult(request, plan, source.records(), clock() - began,
+                            exporter.unconvertedPictures());
 }
 
 void ExportCommand::tellLeftOut(const ExportPlan& plan, const PRBackup& records)
@@ -214,8 +231,8 @@ int ExportCommand::tellCancelled(const Request& request, const ExportPlan& plan)
     return Cancelled;
 }
 
-int ExportCommand::tellResult(
-    const Request& request, const ExportPlan& plan, const PRBackup& records, qint64 elapsedMs)
+int ExportCommand::tellResult(const Request& request, const ExportPlan& plan,
+    const PRBackup& records, qint64 elapsedMs, const QStringList& unconverted)
 {
     using enum Align;
     Table table({Left, Right, Left});
@@ -237,6 +254,7 @@ int ExportCommand::tellResult(
                      : "Exported "_L1 + counted(total, "record"_L1) + " in "_L1
                            + QString::number(static_cast<double>(elapsedMs) / 1000.0, 'f', 1)
                            + " s"_L1);
+    lines += unconvertedLines(request.target, unconverted);
     if (m_console.verbosity() != Verbosity::Quiet) {
         m_console.print(lines.join(QChar(u'\n')));
     }

@@ -34,8 +34,9 @@ private:
     int exportSource(const Request& request, Source& source);
     void tellLeftOut(const ExportPlan& plan, const PRBackup& records);
     int tellCancelled(const Request& request, const ExportPlan& plan);
-    int tellResult(
-        const Request& request, const ExportPlan& plan, const PRBackup& records, qint64 elapsedMs);
+    /// `unconverted`: paths of pictures of which no JPEG could be made.
+    int tellResult(const Request& request, const ExportPlan& plan, const PRBackup& records,
+        qint64 elapsedMs, const QStringList& unconverted);
 
     CLI::App* m_arguments;
     Console& m_console;

@@ -11,8 +11,8 @@
 class PRBackup;
 
 /// The data types that this version of the library writes.
-inline constexpr std::array kWrittenTypes{
-    0, 2, 3, 5, 7, 9, 11, 13, 14, 16, 17, 19, 27, 29, 30, 33, 34};
+inline constexpr std::array kWrittenTypes{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16,
+    17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 35};
 
 /// Data types of a list like "Messages, 2": names without regard to case, or numbers. The error
 /// names what is no category, and the categories that there are.

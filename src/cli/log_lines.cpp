@@ -18,8 +18,18 @@ Console*& target()
     return console;
 }
 
+// What the library writes at the head of each category of files; it warns of nothing.
+bool isAnnouncement(const QMessageLogContext& context, const QString& message)
+{
+    return qstrcmp(context.category, "dataexport.FileExport") == 0
+           && message.endsWith(" files to export"_L1);
+}
+
 void writeLogLine(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
+    if (isAnnouncement(context, message) && target()->verbosity() != Verbosity::Verbose) {
+        return;
+    }
     const bool hasCategory =
         context.category != nullptr && std::strcmp(context.category, "default") != 0;
     const QString line =

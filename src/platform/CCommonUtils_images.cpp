@@ -9,9 +9,9 @@
 #include "platform/literals.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImage>
 #include <QImageReader>
-#include <QSaveFile>
 #include <QtEndian>
 
 namespace {
@@ -80,8 +80,17 @@ bool CCommonUtils::convertHEICFileToJPG(const QString& src, QString& target, boo
         return false;
     }
     insertExif(jpeg, picture.exif);
-    QSaveFile file(target); // takes its name when it is whole
-    return file.open(QIODevice::WriteOnly) && file.write(jpeg) == jpeg.size() && file.commit();
+    // Not under another name first: that would be too long where this one is as long as can be.
+    QFile file(target);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        return false;
+    }
+    const bool written = file.write(jpeg) == jpeg.size();
+    file.close();
+    if (!written) {
+        file.remove();
+    }
+    return written;
 }
 
 void CCommonUtils::protectMediaFile(const QString& /*path*/, bool /*protect*/)

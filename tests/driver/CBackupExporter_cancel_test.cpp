@@ -82,18 +82,31 @@ TEST_F(Cancel, WithAttachmentsIsSeenAgainAtTheirHeadAndLeavesOutTheFinish)
             {"initRange 300, step 50, step 0, step 50*, step 0, step 0, step 0", 1, 0},
             {"initRange 300, step 50, step 0, step 50, step 0*, step 0, step 0", 1, 1},
             {"initRange 300, step 50, step 0, step 50, step 0, step 0*, step 0", 1, 1},
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200*, step 0", 1, 1},
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200, step 0*", 1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, "
+             "step 0*, step 200, step 0",
+                1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, "
+             "step 0, step 0*, step 200, step 0",
+                1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, "
+             "step 0, step 0, step 200*, step 0",
+                1, 1},
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, "
+             "step 0, step 0, step 200, step 0*",
+                1, 1},
             // From here on the run goes to its end.
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200, "
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, "
+             "step 0, step 0, step 200, "
              "step 0, initRange 200, setAttachStage true, step 0*, "
              "step 0, finish",
                 1, 1},
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200, "
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, "
+             "step 0, step 0, step 200, "
              "step 0, initRange 200, setAttachStage true, step 0, "
              "step 0*, finish",
                 1, 1},
-            {"initRange 300, step 50, step 0, step 50, step 0, step 0, step 200, "
+            {"initRange 300, step 50, step 0, step 50, step 0, step 0, "
+             "step 0, step 0, step 200, "
              "step 0, initRange 200, setAttachStage true, step 0, "
              "step 0, finish",
                 1, 1},

@@ -145,9 +145,14 @@ inline QStringList stepsOfCalendar(int records)
     return steps + QStringList(stepText(50 * records));
 }
 
+/// The data types whose records are files.
+inline const QVector<int> kFileTypes{
+    1, 4, 6, 8, 10, 12, 15, 18, 20, 21, 22, 23, 24, 25, 26, 28, 31, 32, 35};
+
 /// The steps that a category of plain records passes on: the pages of tables and of bookmarks take
 /// one for each record and one at their end, chats and chat contacts do so for each of two formats,
-/// the calendar those above, all others one for the whole.
+/// the calendar those above; files ask before each record, which is none, and take one for the
+/// whole, as all others do.
 inline QStringList stepsOf(int dataType, int records)
 {
     if (QVector<int>{5, 7, 9, 11, 14, 17, 19}.contains(dataType)) {
@@ -159,10 +164,13 @@ inline QStringList stepsOf(int dataType, int records)
     if (dataType == 16) {
         return stepsOfStages(2, 100 * records / 3, records);
     }
-    if (!QVector<int>{3, 13, 27, 30, 33, 34}.contains(dataType)) {
-        return {stepText(100 * records)};
-    }
     QStringList steps;
+    for (int i = 0; i < records && kFileTypes.contains(dataType); ++i) {
+        steps.append("step 0");
+    }
+    if (!QVector<int>{3, 13, 27, 30, 33, 34}.contains(dataType)) {
+        return steps + QStringList(stepText(100 * records));
+    }
     for (int i = 0; i < records; ++i) {
         steps.append("step 100");
     }

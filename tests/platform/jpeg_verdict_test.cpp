@@ -4,6 +4,7 @@
 #include "platform/JpegMarkers.h"
 #include "platform/jpeg_verdict.h"
 #include "support/damaged_jpegs.h"
+#include "support/log_messages.h"
 #include "support/temp_tree.h"
 
 #include <QImage>
@@ -56,22 +57,6 @@ JpegMarkers markersOf(const QByteArray& jpeg, qint64 pieceSize = 16'384)
     }
     return markers;
 }
-
-void ignoreMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*m*/)
-{
-}
-
-// Decoders tell of all that is damaged.
-class Silence {
-public:
-    Silence() : m_before(qInstallMessageHandler(ignoreMessage)) {}
-    Silence(const Silence&) = delete;
-    Silence& operator=(const Silence&) = delete;
-    ~Silence() { qInstallMessageHandler(m_before); }
-
-private:
-    QtMessageHandler m_before;
-};
 
 class JpegVerdict : public testing::Test {
 protected:
@@ -144,7 +129,7 @@ TEST_F(JpegVerdict, LeavesToQImageWhatIsNotReadAsAJpegFirst)
         {"empty", "", "e.jpg", false},
         {"two components", makeJpeg({.components = 2}), "f.jpg", false},
     };
-    const Silence silence;
+    const support::LogMessages silence; // decoders tell of all that is damaged
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         const QString path =
@@ -172,7 +157,7 @@ TEST_F(JpegVerdict, IsThatOfQImageForDamagedFiles)
     for (const FormRow& row : kForms) {
         wholes.push_back(makeJpeg(row.form));
     }
-    const Silence silence;
+    const support::LogMessages silence; // decoders tell of all that is damaged
     const int asked = qEnvironmentVariableIntValue("DATAEXPORT_DAMAGED_JPEGS");
     compare(wholes, asked > 0 ? asked - asked / 50 : 3'000);
     // Else the comparison would say little.
@@ -189,7 +174,7 @@ TEST_F(JpegVerdict, IsThatOfQImageForDamagedPhotosOf12Megapixels)
     const std::vector<QByteArray> wholes{makeJpeg({.width = 4000, .height = 3000}),
         makeJpeg({.width = 4032, .height = 3024, .restartInterval = 252}),
         makeJpeg({.width = 3024, .height = 4032, .progressive = true})};
-    const Silence silence;
+    const support::LogMessages silence; // decoders tell of all that is damaged
     const int asked = qEnvironmentVariableIntValue("DATAEXPORT_DAMAGED_JPEGS");
     compare(wholes, asked > 0 ? asked / 50 : 20);
     EXPECT_GT(loaded, 0);
