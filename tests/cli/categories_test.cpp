@@ -101,8 +101,12 @@ TEST(PlanExport, TellsOfEmptyCategoriesOnlyWhereTheyWereNamed)
     EXPECT_EQ(planExport(backup, {0}).empty, (QVector<int>{0}));
 }
 
-TEST(WithoutWriter, KeepsTheOrderOfTheList)
+TEST(WithoutWriter, LeavesOutWhatHasOne)
 {
-    EXPECT_EQ(withoutWriter({21, 0, 5, 6}), (QVector<int>{21, 6}));
-    EXPECT_EQ(categoryNames({21, 5}), "Photos, WhatsApp");
+    EXPECT_EQ(withoutWriter({21, 29, 0}), (QVector<int>{29}));
+}
+
+TEST(CategoryNames, KeepTheOrderOfTheList)
+{
+    EXPECT_EQ(categoryNames({21, 6}), "Photos, WhatsApp Attachments");
 }

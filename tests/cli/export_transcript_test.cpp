@@ -60,8 +60,8 @@ TEST_F(ExportTranscript, TellsWhatIsWrittenAndWhatIsNot)
 {
     const Outcome exported = run({"export", "anna.json", "out"});
     EXPECT_EQ(withoutSeconds(exported.output), kSummary);
-    const QByteArrayList expected{"Not written by this version: Message Attachments (12)",
-        "Messages: begun", "Messages: 100 %", ""};
+    const QByteArrayList expected{
+        "Not written by this version: Calendar (12)", "Messages: begun", "Messages: 100 %", ""};
     EXPECT_EQ(withoutPercentages(exported.errors), expected);
     EXPECT_EQ(exported.status, AllDone);
     EXPECT_TRUE(tree.exists("out/Messages/Anna's Messages.csv"));
@@ -81,7 +81,7 @@ TEST_F(ExportTranscript, OnlyLeavesOtherCategoriesUnmentioned)
 {
     const Outcome exported = run({"export", "--only", "MESSAGES", "anna.json", "out"});
     EXPECT_EQ(withoutSeconds(exported.output), kSummary);
-    EXPECT_FALSE(exported.errors.contains("Attachments"));
+    EXPECT_FALSE(exported.errors.contains("Calendar"));
     EXPECT_EQ(exported.status, AllDone);
 }
 
@@ -198,6 +198,41 @@ TEST_F(ExportTranscript, NamesContactsThatFailed)
     const Outcome exported = run({"export", "--quiet", "--owner", owner, "contacts.json", "out"});
     EXPECT_EQ(exported.errors, "dataexport: could not be written: Contacts\n");
     EXPECT_EQ(exported.status, SomethingFailed);
+}
+
+// A file whose first bytes say HEIC, and no more.
+TEST_F(ExportTranscript, NamesPicturesThatAreNotConverted)
+{
+    tree.write("half.heic", "....ftypheic");
+    tree.write("photos.json", R"({"recordSet": 1, "sets": [{"dataType": 21, "records": [
+        {"values": ["IMG_1.HEIC"], "path": "half.heic", "parent": "2024"},
+        {"values": ["IMG_2.HEIC"], "path": "half.heic"},
+        {"values": ["a.txt"], "data": {"text": "no picture"}}]}]})");
+    const QByteArray summary = "Photos  3  out/Photos\nExported 3 records in N s\n";
+    const Outcome plain = run({"export", "photos.json", "out"});
+    EXPECT_EQ(withoutSeconds(plain.output), summary);
+
+    const Outcome converted = run({"export", "--merge", "--heic-to-jpg", "photos.json", "out"});
+    EXPECT_EQ(withoutSeconds(converted.output),
+        summary
+            + "Could not be written as JPEG, and are copied as they are:\n"
+              "  out/Photos/2024/IMG_1 (2).HEIC\n"
+              "  out/Photos/IMG_2 (2).HEIC\n");
+    EXPECT_EQ(converted.status, AllDone);
+    EXPECT_EQ(tree.read("out/Photos/IMG_2 (2).HEIC"), "....ftypheic");
+    EXPECT_EQ(run({"export", "--quiet", "--heic-to-jpg", "photos.json", "quiet"}).output, "");
+}
+
+TEST_F(ExportTranscript, LogsFilesThatCannotBeCopiedAndTheirNumberWhenVerbose)
+{
+    tree.write("photos.json", R"({"recordSet": 1, "sets": [{"dataType": 21, "records": [
+        {"values": ["a.txt"], "path": "none"}]}]})");
+    const QByteArray number = "dataexport.FileExport: 1 files to export\n";
+    const Outcome normal = run({"export", "photos.json", "out"});
+    EXPECT_TRUE(normal.errors.contains("exportData failed")) << normal.errors.toStdString();
+    EXPECT_FALSE(normal.errors.contains(number)) << normal.errors.toStdString();
+    const Outcome verbose = run({"export", "--verbose", "photos.json", "more"});
+    EXPECT_TRUE(verbose.errors.contains(number)) << verbose.errors.toStdString();
 }
 
 TEST_F(ExportTranscript, DumpWritesARecordSetThatIsASource)

@@ -3,7 +3,7 @@
 
 #include <QByteArray>
 
-/// Three conversations of Anna's, one of them deleted, and twelve attachments.
+/// Three conversations of Anna's, one of them deleted, and twelve events.
 inline QByteArray smallRecordSet()
 {
     QByteArray text = R"({"recordSet": 1, "owner": "Anna", "sets": [
@@ -12,9 +12,9 @@ inline QByteArray smallRecordSet()
                 {"date": "2024-05-01T12:30:00Z", "content": "See you"}]},
             {"values": ["Luis"], "flags": [1], "chats": [{"content": "Gone"}]},
             {"values": ["Zoë"], "chats": [{"fromMe": true, "content": "Hello"}]}]},
-        {"dataType": 1, "records": [)";
+        {"dataType": 29, "records": [)";
     for (int i = 0; i < 12; ++i) {
-        text += i == 0 ? R"({"values": ["cat.jpg"]})" : R"(, {"values": ["cat.jpg"]})";
+        text += i == 0 ? R"({"values": ["Lunch"]})" : R"(, {"values": ["Lunch"]})";
     }
     return text + "]}]}";
 }

@@ -69,7 +69,7 @@ TEST_F(Transcript, HelpOfExportNamesItsOptions)
         "  --help                  Show this help\n"
         "  --owner NAME            Whose data it is, in titles and file names\n"
         "  --only LIST             These categories alone: names or numbers, with commas\n"
-        "  --heic-to-jpg           Write HEIC pictures as JPEG\n"
+        "  --heic-to-jpg           Write HEIC pictures as JPEG too\n"
         "  --tavero                Write contacts in the form for Tavero\n"
         "  --resources DIR         The folder with the images of the pages\n"
         "  --merge                 Write to a folder that is not empty\n"
@@ -121,8 +121,8 @@ TEST_F(Transcript, WrongUsageIsToldAndNothingIsDone)
             "dataexport: --resources: none: no such folder\n"},
         Row{"resources that are a file", {"export", "anna.json", "out", "--resources=anna.json"},
             "dataexport: --resources: anna.json: no such folder\n"},
-        Row{"a category without a writer", {"export", "anna.json", "out", "--only=0,photos,1"},
-            "dataexport: --only: not written by this version: Photos, Message Attachments\n"},
+        Row{"a category without a writer", {"export", "anna.json", "out", "--only=0,calendar"},
+            "dataexport: --only: not written by this version: Calendar\n"},
         Row{"a target that is a file", {"export", "anna.json", "anna.json"},
             "dataexport: anna.json: is not a folder\n"},
         Row{"an empty target", {"export", "anna.json", ""}, "dataexport: TARGET is empty\n"},
@@ -193,9 +193,9 @@ TEST_F(Transcript, ListCountsDeletedRecordsApart)
     const Outcome list = run({"list", "anna.json"});
     EXPECT_EQ(list.output, "Owner: Anna\n"
                            "\n"
-                           "No.  Category             Records  Deleted\n"
-                           "  0  Messages                   2        1\n"
-                           "  1  Message Attachments       12        0\n");
+                           "No.  Category  Records  Deleted\n"
+                           "  0  Messages        2        1\n"
+                           " 29  Calendar       12        0\n");
     EXPECT_EQ(list.errors, "");
     EXPECT_EQ(list.status, AllDone);
 }

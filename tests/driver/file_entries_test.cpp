@@ -66,13 +66,15 @@ TEST_F(FileEntry, TakesTheProgressAsItIsGiven)
 
 TEST_F(FileEntry, FailsWhereTheDirectoryCannotBeMade)
 {
-    QFile inTheWay(root().filePath("Cat"));
+    QFile inTheWay(root().filePath("file"));
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     PRData data = setOf(35, file("a", "1"));
     RecordingProgress progress;
     CBackupExporter exporter;
-    EXPECT_TRUE(run(data, &progress, exporter)) << "the files fail, not the category";
-    EXPECT_EQ(tree(), QStringList("Cat"));
+    EXPECT_FALSE(access_to::exportFile()(
+        &data, QDir(inTheWay.fileName()), "Anna", "Cat", &progress, &exporter, true));
+    EXPECT_EQ(progress.calls(), QStringList());
+    EXPECT_EQ(tree(), QStringList("file"));
 }
 
 TEST_F(FileEntry, FilesThatCannotBeHadLeaveTheCategory)
