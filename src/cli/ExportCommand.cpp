@@ -134,11 +134,6 @@ std::optional<ExportCommand::Request> ExportCommand::readRequest()
             return std::nullopt;
         }
         request.only = only.value();
-        const QVector<int> unwritten = withoutWriter(request.only);
-        if (!unwritten.isEmpty()) {
-            refuse("--only: not written by this version: "_L1 + categoryNames(unwritten));
-            return std::nullopt;
-        }
     }
     if (m_arguments->count("--resources") != 0) {
         const QFileInfo resources(argumentText(m_resources));
@@ -178,7 +173,7 @@ int ExportCommand::exportSource(const Request& request, Source& source)
     if (refuse(categoryObjection(request.source, request.target, plan.written))) {
         return NotStarted;
     }
-    tellLeftOut(plan, source.records());
+    tellLeftOut(plan);
     if (interrupted()) {
         return tellCancelled(request, plan);
     }
@@ -210,12 +205,8 @@ int ExportCommand::exportSource(const Request& request, Source& source)
                             exporter.unconvertedPictures());
 }
 
-void ExportCommand::tellLeftOut(const ExportPlan& plan, const PRBackup& records)
+void ExportCommand::tellLeftOut(const ExportPlan& plan)
 {
-    if (!plan.unwritten.isEmpty()) {
-        m_console.note(
-            "Not written by this version: "_L1 + categoryCounts(records, plan.unwritten));
-    }
     if (!plan.empty.isEmpty()) {
         m_console.note("Without records: "_L1 + categoryNames(plan.empty));
     }

@@ -32,7 +32,7 @@ private:
     QString ownerOf(const Source& source) const;
 
     int exportSource(const Request& request, Source& source);
-    void tellLeftOut(const ExportPlan& plan, const PRBackup& records);
+    void tellLeftOut(const ExportPlan& plan);
     int tellCancelled(const Request& request, const ExportPlan& plan);
     /// `unconverted`: paths of pictures of which no JPEG could be made.
     int tellResult(const Request& request, const ExportPlan& plan, const PRBackup& records,

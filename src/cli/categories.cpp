@@ -7,15 +7,9 @@
 
 #include <QStringList>
 
-#include <algorithm>
 #include <optional>
 
 namespace {
-
-bool hasWriter(int dataType)
-{
-    return std::ranges::find(kWrittenTypes, dataType) != kWrittenTypes.end();
-}
 
 int selectedCount(const PRBackup& records, int dataType)
 {
@@ -77,24 +71,14 @@ ExportPlan planExport(const PRBackup& records, const QVector<int>& only)
         }
         if (selectedCount(records, dataType) == 0) {
             plan.empty.append(dataType);
-        } else if (hasWriter(dataType)) {
-            plan.written.append(dataType);
         } else {
-            plan.unwritten.append(dataType);
+            plan.written.append(dataType);
         }
     }
     if (only.isEmpty()) {
         plan.empty.clear(); // nobody asked for them
     }
-    std::ranges::sort(plan.unwritten);
     return plan;
-}
-
-QVector<int> withoutWriter(const QVector<int>& dataTypes)
-{
-    QVector<int> unwritten;
-    std::ranges::remove_copy_if(dataTypes, std::back_inserter(unwritten), hasWriter);
-    return unwritten;
 }
 
 QString categoryNames(const QVector<int>& dataTypes)
@@ -102,16 +86,6 @@ QString categoryNames(const QVector<int>& dataTypes)
     QStringList names;
     for (const int dataType : dataTypes) {
         names.append(PRBackup::dataTypeName(dataType));
-    }
-    return names.join(", "_L1);
-}
-
-QString categoryCounts(const PRBackup& records, const QVector<int>& dataTypes)
-{
-    QStringList names;
-    for (const int dataType : dataTypes) {
-        names.append(PRBackup::dataTypeName(dataType) + " ("_L1
-                     + QString::number(selectedCount(records, dataType)) + ")"_L1);
     }
     return names.join(", "_L1);
 }

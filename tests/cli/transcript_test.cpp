@@ -121,8 +121,6 @@ TEST_F(Transcript, WrongUsageIsToldAndNothingIsDone)
             "dataexport: --resources: none: no such folder\n"},
         Row{"resources that are a file", {"export", "anna.json", "out", "--resources=anna.json"},
             "dataexport: --resources: anna.json: no such folder\n"},
-        Row{"a category without a writer", {"export", "anna.json", "out", "--only=0,calendar"},
-            "dataexport: --only: not written by this version: Calendar\n"},
         Row{"a target that is a file", {"export", "anna.json", "anna.json"},
             "dataexport: anna.json: is not a folder\n"},
         Row{"an empty target", {"export", "anna.json", ""}, "dataexport: TARGET is empty\n"},
