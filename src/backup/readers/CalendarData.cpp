@@ -61,7 +61,7 @@ constexpr std::array kFrequencies{ // from 1 on
 
 QString repeatsText(const std::optional<RecurrenceRow>& recurrence)
 {
-    const qint64 count = static_cast<qint64>(kFrequencies.size());
+    const auto count = static_cast<qint64>(kFrequencies.size());
     if (!recurrence || recurrence->frequency < 1 || recurrence->frequency > count) {
         return {};
     }

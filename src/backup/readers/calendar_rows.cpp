@@ -87,11 +87,13 @@ private:
         auto found = m_zones.find(name);
         if (found == m_zones.end()) {
             const QByteArray id = name.toUtf8();
-            found = m_zones.insert(name, id.isEmpty() ? QTimeZone() : QTimeZone(id));
+            found = m_zones.insert(name, m_known.contains(id) ? QTimeZone(id) : QTimeZone());
         }
         return *found;
     }
 
+    // A list of its own: to ask QTimeZone for a name that it lacks makes one each time.
+    const QList<QByteArray> m_known = QTimeZone::availableTimeZoneIds();
     QHash<QString, QTimeZone> m_zones;
 };
 

@@ -80,9 +80,9 @@ QString alarmText(int minutes)
 
 QString rruleText(const PRCalendarItem* item)
 {
+    const QDateTime end = item->sortValue(RecurrenceEnd).toDateTime();
     return recurrenceRule(item->sortValue(Recurring).toString(),
-        item->sortValue(Start).toDateTime().date(),
-        item->sortValue(RecurrenceEnd).toDateTime().date());
+        item->sortValue(Start).toDateTime().date(), end.isValid() ? end.date() : QDate());
 }
 
 bool isWanted(const PRCalendarItem* item)

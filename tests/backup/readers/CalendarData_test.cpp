@@ -416,8 +416,8 @@ TEST_F(CalendarDataTest, OddValuesCostNoEvent)
 {
     openFile(newCalendar({R"(INSERT INTO CalendarItem VALUES (1, x'ff00', 'a', 3, 'b', 4, 'c', 'd',
             'e', 'f', 'g', 'h', 'i', 5, 'j', 2, 6))",
-        "INSERT INTO CalendarItem (ROWID, entity_type, start_date) VALUES (2, 2, 9e999), (3, 2, "
-        "-1e15)",
+        R"(INSERT INTO CalendarItem (ROWID, entity_type, start_date) VALUES (2, 2, 9e999),
+            (3, 2, -1e15))",
         R"(INSERT INTO Recurrence VALUES (1, 'a', 'b', 'c', 'd', 'e', x'ff', 1),
             (2, 9223372036854775807, 9223372036854775807, 1, 1, 1, '*;*', 2))",
         "INSERT INTO Alarm VALUES (1, 'a', 'b', 1, 'c', 'd')",

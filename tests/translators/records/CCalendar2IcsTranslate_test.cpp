@@ -68,9 +68,8 @@ TEST(CCalendar2IcsTranslate, EventHasItsLinesInTheirOrderEachInAWriteOfItsOwn)
                 .alarmSeconds = 900}))),
         QStringList({kHeader, "BEGIN:VEVENT\r\n", "SUMMARY:Choir\r\n", "LOCATION:Hall\r\n",
             "DESCRIPTION:Scores\r\n", "DTSTART:20240604T193000\r\n", "DTEND:20240604T210000\r\n",
-            "BEGIN:VALARM\r\nTRIGGER:-PT15M\r\nACTION:DISPLAY\r\nDESCRIPTION:Reminder\r\n"
-            "END:VALARM\r\n",
-            "RRULE:FREQ=WEEKLY;COUNT=4;BYDAY=TU\r\n", "END:VEVENT\r\n", kFooter}));
+            QString(kNoAlarm).replace("-PT0M", "-PT15M"), "RRULE:FREQ=WEEKLY;COUNT=4;BYDAY=TU\r\n",
+            "END:VEVENT\r\n", kFooter}));
 }
 
 TEST(CCalendar2IcsTranslate, WhatIsEmptyHasNoLine)
