@@ -5,6 +5,7 @@
 #include "support/http_server.h"
 #include "support/log_messages.h"
 #include "support/recording_progress.h"
+#include "support/temp_tree.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -13,6 +14,179 @@ namespace {
 
 using support::HttpServer;
 using support::RecordingProgress;
+
+const std::string kText = HttpServer::reply(200, "fetched");
+
+/// Two selected files, one at an address and one on the disk, and one that nobody wants.
+class FilesAgain : public DriverTest {
+protected:
+    FilesAgain()
+    {
+        server.answer("/a", kText);
+        server.answer("/b", kText);
+        RecordList records;
+        records.push_back(file("a.txt", server.address("/a")));
+        records.push_back(file("here.txt", sources.write("here.txt", "here")));
+        records.push_back(file("unwanted.txt", server.address("/b"), false));
+        backup.add(std::make_unique<PRData>(15, std::move(records)));
+    }
+
+    static std::unique_ptr<PRFileItem> file(
+        const QString& name, const QString& path, bool selected = true)
+    {
+        return std::make_unique<PRFileItem>(
+            Record{.values = {name}, .selected = selected}, FileContent{.path = path});
+    }
+
+    QString pathOf(int row) const
+    {
+        return dynamic_cast<PRFileItem*>(backup.getPRData(15)->at(row, true))->filePath();
+    }
+
+    QStringList exported(CIProgressCallback* progress = nullptr)
+    {
+        CBackupExporter exporter;
+        exporter.exportBackup(&backup, root(), progress, {15}, false, "Anna");
+        return tree();
+    }
+
+    const support::LogMessages log;
+    HttpServer server;
+    support::TempTree sources;
+    PRBackup backup;
+    const QStringList firstRound{"WeChat Attachments/", "WeChat Attachments/here.txt"};
+    const QStringList bothRounds{"WeChat Attachments/", "WeChat Attachments/a.txt",
+        "WeChat Attachments/here (2).txt", "WeChat Attachments/here.txt"};
+};
+
+TEST_F(FilesAgain, AreAllThatAreSelectedUnderNewNames)
+{
+    EXPECT_EQ(joined(exported()), joined(bothRounds));
+    EXPECT_EQ(contentsOf("WeChat Attachments/a.txt"), "fetched");
+    EXPECT_EQ(contentsOf("WeChat Attachments/here (2).txt"), "here");
+    EXPECT_EQ(letters(server.asked()), "a");
+}
+
+TEST_F(FilesAgain, AreNotWrittenWhenNothingCouldBeFetched)
+{
+    server.answer("/a", HttpServer::reply(404, "not here"));
+    EXPECT_EQ(joined(exported()), joined(firstRound));
+    EXPECT_EQ(letters(server.asked()), "aaa");
+    EXPECT_EQ(pathOf(0), server.address("/a"));
+}
+
+TEST_F(FilesAgain, LeaveThoseThatFailedWithTheirAddresses)
+{
+    RecordList records;
+    records.push_back(file("a.txt", server.address("/a")));
+    records.push_back(file("gone.txt", server.address("/gone")));
+    backup.add(std::make_unique<PRData>(15, std::move(records)));
+    EXPECT_EQ(joined(exported()), "WeChat Attachments/, WeChat Attachments/a.txt");
+    EXPECT_TRUE(QFileInfo(pathOf(0)).isFile());
+    EXPECT_EQ(pathOf(1), server.address("/gone"));
+}
+
+TEST_F(FilesAgain, HaveTheirFilesForALaterRun)
+{
+    exported();
+    const QString path = pathOf(0);
+    EXPECT_EQ(support::TempTree::readFile(path), "fetched");
+    EXPECT_EQ(pathOf(2), server.address("/b")) << "nobody wanted it";
+    EXPECT_EQ(exported().size(), 6) << "one more of each, and nothing fetched";
+    EXPECT_EQ(letters(server.asked()), "a");
+    EXPECT_EQ(pathOf(0), path);
+}
+
+TEST_F(FilesAgain, FillTheScaleOfTheStage)
+{
+    RecordingProgress progress;
+    exported(&progress);
+    const QStringList calls = progress.calls();
+    const int begin = calls.indexOf("setAttachStage true");
+    ASSERT_GT(begin, 0);
+    EXPECT_EQ(calls.at(begin - 1), "initRange 300"); // two records, one address
+    EXPECT_EQ(joined(calls.mid(begin + 1, 3)), "step 0, step 0, step 100");
+    double moved = 0;
+    for (const QString& call : calls.mid(begin + 1)) {
+        moved += call.startsWith("step ") ? call.midRef(5).toDouble() : 0;
+    }
+    EXPECT_NEAR(moved, 300, 0.001);
+    EXPECT_EQ(calls.last(), "finish");
+}
+
+TEST_F(FilesAgain, AreNotWrittenBehindACancelInTheLastStep)
+{
+    AnsweringProgress progress([this](int) { return server.asked().empty(); });
+    EXPECT_EQ(joined(exported(&progress)), joined(firstRound));
+    EXPECT_TRUE(QFileInfo(pathOf(0)).isFile()) << "what was in hand stays in the record";
+}
+
+// A host that takes its refusal back: the library follows its last word.
+TEST_F(FilesAgain, AreWrittenWhenALaterPassGetsSomeMore)
+{
+    RecordList records;
+    records.push_back(file("a.txt", server.address("/a")));
+    records.push_back(file("b.txt", server.address("/b")));
+    backup.add(std::make_unique<PRData>(15, std::move(records)));
+    bool refused = false;
+    AnsweringProgress progress([this, &refused](int) {
+        const bool refusesNow = !refused && !server.asked().empty();
+        refused = refused || refusesNow;
+        return !refusesNow;
+    });
+    EXPECT_EQ(joined(exported(&progress)),
+        "WeChat Attachments/, WeChat Attachments/a.txt, WeChat Attachments/b.txt");
+    EXPECT_EQ(letters(server.asked()), "ab");
+}
+
+TEST_F(FilesAgain, AreNotWrittenWhenDownloadsAreCancelledBeforeTheLast)
+{
+    RecordList records;
+    records.push_back(file("a.txt", server.address("/a")));
+    records.push_back(file("b.txt", server.address("/b")));
+    backup.add(std::make_unique<PRData>(15, std::move(records)));
+    CBackupExporter exporter;
+    server.beforeAnswers([&exporter](const std::string&) { exporter.cancelDownload(); });
+    exporter.exportBackup(&backup, root(), nullptr, {15}, false, "Anna");
+    EXPECT_EQ(joined(tree()), "WeChat Attachments/");
+    EXPECT_EQ(letters(server.asked()), "a");
+}
+
+// The cancel is looked for before each attachment and before each pass, and there is none left.
+TEST_F(FilesAgain, AreWrittenWhenDownloadsAreCancelledInTheLast)
+{
+    CBackupExporter exporter;
+    server.beforeAnswers([&exporter](const std::string&) { exporter.cancelDownload(); });
+    exporter.exportBackup(&backup, root(), nullptr, {15}, false, "Anna");
+    EXPECT_EQ(joined(tree()), joined(bothRounds));
+}
+
+TEST_F(FilesAgain, AreNotWrittenForATypeThatIsNotWantedNotThereOrNotSelected)
+{
+    PRBackup unselected;
+    unselected.add(plainSet(15, 0, 2));
+    PRBackup without;
+    struct {
+        const char* what = nullptr;
+        PRBackup* backup = nullptr;
+        QVector<int> types;
+    } const rows[] = {
+        {"not wanted", &backup, {14}},
+        {"not there", &without, {15}},
+        {"not selected", &unselected, {15}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        PRFileItem item(Record{.values = {"x.txt"}}, FileContent{.path = server.address("/a")});
+        QList<PRFileItem*> items{&item};
+        CBackupExporter exporter;
+        (exporter.*access_to::onDownloadFileAttach())(
+            items, 15, row.backup, root(), "Anna", row.types, nullptr, false);
+        EXPECT_TRUE(QFileInfo(item.filePath()).isFile());
+        EXPECT_EQ(items.size(), 1) << "the list of the caller stays as it is";
+        EXPECT_EQ(joined(tree()), "");
+    }
+}
 
 /// A picture at an address and one that nobody wants, in one chat.
 class ChatsAgain : public DriverTest {
