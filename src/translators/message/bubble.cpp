@@ -14,7 +14,6 @@
 #include "translators/message/bubble.h"
 
 #include "exporters/CHtmlExporter.h"
-#include "exporters/page_images.h"
 #include "exporters/page_text.h"
 
 namespace {

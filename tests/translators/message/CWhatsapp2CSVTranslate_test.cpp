@@ -132,7 +132,7 @@ TEST(ChatCsv, PartialSelectionLeavesOutUncheckedMessages)
 {
     const std::vector<ChatMessage> messages{
         {.checked = false, .content = "a"}, {.content = "b"}, {.checked = false, .content = "c"}};
-    const QString start = kChatCells + "\"\",\"Received\",\"";
+    const QString start = kChatCells + R"("","Received",")";
     EXPECT_EQ(rowsOf(chatOf(messages, PartlySelected)), QStringList(start + "b\"\n"));
     // Selected as a whole: the messages' own marks are not asked.
     for (const int flags : {0, Deleted | Locked | InCalendarRange}) {
@@ -170,7 +170,7 @@ TEST(ChatCsv, RowAfterALongerOneIsWhole)
 TEST(ChatCsv, MegabyteOfTextComesOutWhole)
 {
     EXPECT_EQ(rowOf({.content = QString("12\"45\n78").repeated(131'072)}),
-        "\"\",\"Received\",\"" + QString("12\"\"45\n78").repeated(131'072) + "\"\n");
+        R"("","Received",")" + QString("12\"\"45\n78").repeated(131'072) + "\"\n");
 }
 
 // --- the whole run
@@ -189,7 +189,7 @@ protected:
 
     static QString row(const QString& content)
     {
-        return kChatCells + "\"\",\"Received\",\"" + content + "\"\n";
+        return kChatCells + R"("","Received",")" + content + "\"\n";
     }
 
     std::unique_ptr<PRData> data;
@@ -268,7 +268,7 @@ TEST(ChatCsvFile, IsUtf16WithAMarkAndKeepsEveryCodeUnit)
     EXPECT_TRUE(exporter.closeExport(true));
     QByteArray expected("\xFF\xFE");
     const QString written =
-        kLabels + kChatCells + "\"\",\"Received\",\"" + QString::fromStdU16String(text) + "\"\n";
+        kLabels + kChatCells + R"("","Received",")" + QString::fromStdU16String(text) + "\"\n";
     for (const QChar unit : written) {
         expected.append(static_cast<char>(unit.cell())).append(static_cast<char>(unit.row()));
     }
