@@ -19,7 +19,7 @@ using EasyHandle = std::unique_ptr<CURL, EasyCleanup>;
 
 struct Body {
     QFile& file;
-    qint64 limit;
+    qint64 limit = 0;
     qint64 size = 0;
 };
 
