@@ -104,6 +104,13 @@ class Tidy(unittest.TestCase):
         self.write("c.cpp", "int c() { return 1; }\n")
         self.assertEqual(self.tidy(), (1, []))
 
+    def test_passes_over_a_test_whose_library_may_be_missing(self):
+        self.tidy()
+        (self.root / "tests/readback").mkdir(parents=True)
+        self.addCleanup(shutil.rmtree, self.root / "tests")
+        self.write("tests/readback/c.cpp", "int c() { return 1; }\n")
+        self.assertEqual(self.tidy(), (0, []))
+
 
 if __name__ == "__main__":
     unittest.main()
