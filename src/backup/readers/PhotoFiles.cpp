@@ -32,31 +32,38 @@ QString withoutEnding(const QString& fileName)
     return point < 0 ? fileName : fileName.left(point);
 }
 
+// Files of a directory, in the first domain that has some.
+std::vector<DeviceFile> filesOf(const FileLocator& files, QLatin1String directory)
+{
+    std::vector<DeviceFile> found;
+    for (const QLatin1String domain : kDomains) {
+        const QString name = domain; // one text for all
+        const QStringList paths = files.filesBelow(name, directory);
+        found.reserve(static_cast<std::size_t>(paths.size()));
+        for (const QString& path : paths) {
+            found.push_back({.domain = name, .path = path});
+        }
+        if (!found.empty()) {
+            break;
+        }
+    }
+    return found;
+}
+
 } // namespace
 
 PhotoFiles::PhotoFiles(const FileLocator& files) : m_files(files)
 {
-    for (const QLatin1String domain : kDomains) {
-        list(domain);
-    }
-}
-
-void PhotoFiles::list(const QString& domain)
-{
     for (const QLatin1String directory : kOriginals) {
-        const QStringList paths = m_files.filesBelow(domain, directory);
-        for (const QString& path : paths) {
-            if (!m_originals.contains(path)) {
-                m_originals.insert(path, {.domain = domain});
-            }
+        for (const DeviceFile& file : filesOf(files, directory)) {
+            m_originals.insert(file.path, {.domain = file.domain});
         }
     }
-    const QStringList mutations = m_files.filesBelow(domain, kMutations);
-    for (const QString& path : mutations) {
-        const int adjustments = path.lastIndexOf(kAdjustments);
-        if (adjustments > 0 && lastPart(path).startsWith("FullSizeRender."_L1)) {
+    for (const DeviceFile& file : filesOf(files, kMutations)) {
+        const int adjustments = file.path.lastIndexOf(kAdjustments);
+        if (adjustments > 0 && lastPart(file.path).startsWith("FullSizeRender."_L1)) {
             const int begin = kMutations.size() + 1;
-            m_edited[path.mid(begin, adjustments - begin)].push_back({domain, path});
+            m_edited[file.path.mid(begin, adjustments - begin)].push_back(file);
         }
     }
 }
@@ -66,7 +73,7 @@ DeviceFile PhotoFiles::take(const QString& path)
     const auto found = m_originals.find(path);
     if (found != m_originals.end()) {
         found->isTaken = true;
-        return {.domain = found->domain, .path = path};
+        return {.domain = found->domain, .path = found.key()};
     }
     // A place that is not listed.
     const auto* const domain = std::ranges::find_if(

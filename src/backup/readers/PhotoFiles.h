@@ -36,8 +36,6 @@ private:
         bool isTaken = false;
     };
 
-    void list(const QString& domain);
-
     const FileLocator& m_files;
     QHash<QString, Original> m_originals;             // by path
     QHash<QString, std::vector<DeviceFile>> m_edited; // by directory and name without ending

@@ -84,8 +84,9 @@ protected:
         for (int row = 0; set != nullptr && row < set->count(1); ++row) {
             const PRFileItem& item = file(dataType, row);
             QFile contents(item.filePath());
-            const QString text =
-                contents.open(QIODevice::ReadOnly) ? QString::fromUtf8(contents.readAll()) : "-";
+            const QString text = !item.filePath().isEmpty() && contents.open(QIODevice::ReadOnly)
+                                     ? QString::fromUtf8(contents.readAll())
+                                     : "-";
             const QString parent = item.record().parent ? " < " + *item.record().parent : QString();
             shown.append(item.value(0) + parent + " = " + text);
         }

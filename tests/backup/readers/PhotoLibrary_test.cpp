@@ -250,11 +250,12 @@ TEST_F(PhotoLibraryTest, SharedOnesAreASetOfTheirOwn)
     add("DCIM/100APPLE/IMG_0003.JPG");
     open({asset(1, "/var/mobile/Media/" + directory + "/IMG_0001.JPG"),
         asset(2, directory + "/IMG_0002.MP4", "ZKIND", "1"),
-        asset(3, "DCIM/100APPLE/IMG_0003.JPG", "ZSAVEDASSETTYPE", "4"), album(1, "Family", 1505),
-        album(2, "Mine"), inAlbum(1, 1), inAlbum(2, 1), inAlbum(1, 2)});
+        asset(3, "DCIM/100APPLE/IMG_0003.JPG", "ZSAVEDASSETTYPE", "4"),
+        asset(4, "gone/IMG_0004.JPG", "ZSAVEDASSETTYPE, ZVISIBILITYSTATE", "4, 2"),
+        album(1, "Family", 1505), album(2, "Mine"), inAlbum(1, 1), inAlbum(2, 1), inAlbum(1, 2)});
     EXPECT_EQ(files(kShared),
         QStringList({"IMG_0001.JPG < Family = IMG_0001.JPG", "IMG_0002.MP4 < Family = IMG_0002.MP4",
-            "IMG_0003.JPG < 100APPLE = IMG_0003.JPG"}));
+            "IMG_0003.JPG < 100APPLE = IMG_0003.JPG", "IMG_0004.JPG < gone = -"}));
     EXPECT_EQ(lines(kPhotos), QStringList());
     EXPECT_EQ(lines(kVideos), QStringList());
 }
