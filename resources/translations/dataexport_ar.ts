@@ -1023,11 +1023,6 @@
         <extracomment>Column: the app that a file belongs to.</extracomment>
         <translation>التطبيق</translation>
     </message>
-    <message>
-        <source>Place</source>
-        <extracomment>Column: the directory of an app&apos;s file.</extracomment>
-        <translation>الموقع</translation>
-    </message>
 </context>
 <context>
     <name>ExportCSVFile_Google</name>

@@ -17,6 +17,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -75,15 +76,24 @@ bool isRecording(const QString& path)
 /// The recordings of the backup by their names.
 using FilesByName = QHash<QString, DeviceFile>;
 
+QStringList recordingsIn(const FileLocator& files, const Place& place)
+{
+    QStringList paths = files.filesBelow(place.domain, place.directory);
+    paths.erase(std::remove_if(paths.begin(), paths.end(),
+                    [](const QString& path) { return !isRecording(path); }),
+        paths.end());
+    return paths;
+}
+
+// Of two with one name that of the first place.
 FilesByName filesByName(const FileLocator& files)
 {
     FilesByName found;
     for (const Place& place : kPlaces) {
-        const QStringList paths = files.filesBelow(place.domain, place.directory);
+        const QStringList paths = recordingsIn(files, place);
         for (const QString& path : paths) {
-            if (isRecording(path) && !found.contains(lastPart(path))) {
-                found.insert(lastPart(path), {.domain = place.domain, .path = path});
-            }
+            const QString name = lastPart(path);
+            found.insert(name, found.value(name, {.domain = place.domain, .path = path}));
         }
     }
     return found;
