@@ -647,13 +647,8 @@
     </message>
     <message>
         <source>Marks</source>
-        <extracomment>Column: of reminders Flagged, Repeats or both; of events Cancelled, Declined and the like.</extracomment>
+        <extracomment>Column of a table of reminders: Flagged, Repeats or both.</extracomment>
         <translation>标记</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <extracomment>Column: where an event takes place.</extracomment>
-        <translation>地点</translation>
     </message>
     <message>
         <source>Starts</source>
@@ -666,24 +661,9 @@
         <translation>结束</translation>
     </message>
     <message>
-        <source>Until</source>
-        <extracomment>Column: the last day on which an event comes again.</extracomment>
-        <translation>重复截止</translation>
-    </message>
-    <message>
         <source>Calendar</source>
         <extracomment>Column: the calendar that an event belongs to; also the name of the one that each phone has.</extracomment>
         <translation>日历</translation>
-    </message>
-    <message>
-        <source>Attendees</source>
-        <extracomment>Column: who else takes part in an event.</extracomment>
-        <translation>参与者</translation>
-    </message>
-    <message>
-        <source>Alert</source>
-        <extracomment>Column: when the phone rings for an event.</extracomment>
-        <translation>提醒</translation>
     </message>
     <message>
         <source>Every day</source>
@@ -724,6 +704,28 @@
         <source>Every %1 years</source>
         <extracomment>%1 is a number from 2 on.</extracomment>
         <translation>每%1年</translation>
+    </message>
+    <message>
+        <source>%1 until
+%2</source>
+        <extracomment>How often and up to which day an event comes again: Every week until 2024-07-16.</extracomment>
+        <translation>%1，截至
+%2</translation>
+    </message>
+    <message>
+        <source>Attendees: %1</source>
+        <extracomment>Line of the details of an event: the names of those who take part.</extracomment>
+        <translation>参与者：%1</translation>
+    </message>
+    <message>
+        <source>Alert: %1</source>
+        <extracomment>Line of the details of an event: when the phone rings for it.</extracomment>
+        <translation>提醒：%1</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <extracomment>Column: what else there is to an event, such as attendees and alerts.</extracomment>
+        <translation>详细信息</translation>
     </message>
     <message>
         <source>Accepted</source>
@@ -1022,6 +1024,11 @@
         <source>App</source>
         <extracomment>Column: the app that a file belongs to.</extracomment>
         <translation>App</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <extracomment>Column: the directory of an app&apos;s file; of an event, where it takes place.</extracomment>
+        <translation>位置</translation>
     </message>
 </context>
 <context>

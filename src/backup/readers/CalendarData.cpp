@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
-//   Title   | Place    | Starts           | Ends             | Notes  | Repeats       | Until
-//   Choir   | Hall     | 2024-06-04 19:30 | 2024-06-04 21:00 | Scores | Every 2 weeks | 2024-07-16
-//   Holiday |          | 2024-08-01       | 2024-08-14       |        |               |
+//   Title   | Place | Starts           | Ends             | Notes  | Repeats
+//   Choir   | Hall  | 2024-06-04 19:30 | 2024-06-04 21:00 | Scores | Every 2 weeks until
+//           |       |                  |                  |        | 2024-07-16
+//   Holiday |       | 2024-08-01       | 2024-08-14       |        |
 //
-// and behind them Calendar ("Home (iCloud)"), Attendees, Alert (the moment of it), Marks. Columns
-// with a typed value have the number that it has at the record.
+// and behind them Calendar ("Home (iCloud)") and Details, a line each:
+//   Cancelled, Declined
+//   Attendees: Lena (Organizer), Tom (Accepted)
+//   Alert: 2024-06-04 19:15
+// With more columns, or a word before it in its line, a date would break at its hyphens on a screen
+// of usual width.
 #include "backup/readers/CalendarData.h"
 
 #include "backup/readers/calendar_rows.h"
@@ -59,7 +64,7 @@ constexpr std::array kFrequencies{ // from 1 on
 };
 // clang-format on
 
-QString repeatsText(const std::optional<RecurrenceRow>& recurrence)
+QString frequencyText(const std::optional<RecurrenceRow>& recurrence)
 {
     const auto count = static_cast<qint64>(kFrequencies.size());
     if (!recurrence || recurrence->frequency < 1 || recurrence->frequency > count) {
@@ -76,6 +81,14 @@ QString untilText(const EventRow& event)
 {
     const QDateTime day(event.recurrenceEnd.date(), QTime(0, 0), Qt::UTC);
     return CCommonUtils::dateToString(day, false);
+}
+
+QString repeatsText(const EventRow& event)
+{
+    const QString frequency = frequencyText(event.recurrence);
+    const QString until = untilText(event);
+    return frequency.isEmpty() || until.isEmpty() ? frequency
+                                                  : tr("%1 until\n%2").arg(frequency, until);
 }
 
 QString answerText(Answer answer)
@@ -110,7 +123,7 @@ QString attendeesText(const Invitation& invitation)
             people.append(withRemark(guest.name, answerText(guest.answer)));
         }
     }
-    return people.join(", "_L1);
+    return people.isEmpty() ? QString() : tr("Attendees: %1").arg(people.join(", "_L1));
 }
 
 QString marksText(const EventRow& event)
@@ -134,8 +147,15 @@ QString alertText(const EventRow& event)
         return {};
     }
     // Whole days begin at midnight of whatever clock, which stands as UTC.
-    return CCommonUtils::datetimeToMinute(
-        event.start.addSecs(-qint64(*event.leadSeconds)), !event.allDay);
+    const QDateTime alert = event.start.addSecs(-qint64(*event.leadSeconds));
+    return tr("Alert: %1").arg(CCommonUtils::datetimeToMinute(alert, !event.allDay));
+}
+
+QString detailsText(const EventRow& event)
+{
+    QStringList details{marksText(event), attendeesText(event.invitation), alertText(event)};
+    details.removeAll(QString());
+    return details.join(QChar(u'\n'));
 }
 
 // "1*2*D=0MO,0WE", the form that the writer of events reads.
@@ -155,8 +175,7 @@ std::unique_ptr<PRAbstractItem> record(const EventRow& event, bool withAccount)
                                  : event.calendar;
     return std::make_unique<PRCalendarItem>(
         Record{.values = {event.title, event.place, dateText(event.start, event.allDay),
-                   endText(event), event.notes, repeatsText(event.recurrence), untilText(event),
-                   calendar, attendeesText(event.invitation), alertText(event), marksText(event)},
+                   endText(event), event.notes, repeatsText(event), calendar, detailsText(event)},
             .flags = InCalendarRange},
         CalendarEvent{.allDay = event.allDay ? 1 : 0,
             .start = event.start,
@@ -171,7 +190,7 @@ std::unique_ptr<PRAbstractItem> record(const EventRow& event, bool withAccount)
 CalendarData::CalendarData(Notices& notices)
     : LazyData(kDataType,
         {tr("Title"), tr("Place"), tr("Starts"), tr("Ends"), tr("Notes"), tr("Repeats"),
-            tr("Until"), tr("Calendar"), tr("Attendees"), tr("Alert"), tr("Marks")},
+            tr("Calendar"), tr("Details")},
         notices)
 {
 }
