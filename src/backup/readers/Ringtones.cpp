@@ -33,35 +33,47 @@ QString tr(const char* text)
     return QCoreApplication::translate("DataExport", text);
 }
 
+void addTones(const FileLocator& files, QLatin1String domain, QLatin1String directory,
+    std::vector<DeviceFile>& tones)
+{
+    const QStringList paths = files.filesBelow(domain, directory);
+    for (const QString& path : paths) {
+        if (path.endsWith(kEnding, Qt::CaseInsensitive)) {
+            tones.push_back({.domain = domain, .path = path});
+        }
+    }
+}
+
 std::vector<DeviceFile> tonesOf(const FileLocator& files)
 {
     std::vector<DeviceFile> tones;
     for (const QLatin1String domain : kDomains) {
         for (const QLatin1String directory : kDirectories) {
-            const QStringList paths = files.filesBelow(domain, directory);
-            for (const QString& path : paths) {
-                if (path.endsWith(kEnding, Qt::CaseInsensitive)) {
-                    tones.push_back({.domain = domain, .path = path});
-                }
-            }
+            addTones(files, domain, directory, tones);
         }
     }
     return tones;
 }
 
-// What is known of the tones, by their file names. Nothing where the list is missing or damaged.
+// What a domain's list says of the tones, by their file names. Nothing where it is missing or
+// damaged.
+QVariantMap listedTones(const FileLocator& files, QLatin1String domain)
+{
+    const QString path = files.locate(domain, kList);
+    if (path.isEmpty()) {
+        return {};
+    }
+    const auto list = formats::readPlistFile(path);
+    return list ? list->toMap().value("Ringtones"_L1).toMap() : QVariantMap();
+}
+
 QVariantMap knownTones(const FileLocator& files)
 {
     QVariantMap known;
     for (const QLatin1String domain : kDomains) {
-        const QString path = files.locate(domain, kList);
-        const auto list =
-            path.isEmpty() ? formats::Result<QVariant>(QVariant()) : formats::readPlistFile(path);
-        if (list) {
-            const QVariantMap tones = list->toMap().value("Ringtones"_L1).toMap();
-            for (auto tone = tones.cbegin(); tone != tones.cend(); ++tone) {
-                known.insert(tone.key(), tone.value());
-            }
+        const QVariantMap tones = listedTones(files, domain);
+        for (auto tone = tones.cbegin(); tone != tones.cend(); ++tone) {
+            known.insert(tone.key(), tone.value());
         }
     }
     return known;
