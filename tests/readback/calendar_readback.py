@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Reads calendar files back: their lines with python3-icalendar, their rules with libical.
 
-  calendar_in_other_readers.py PROGRAM BACKUP
+  calendar_readback.py PROGRAM BACKUP
 
 The events of the sample backup must come back as the records hold them. Recurrences are made by
 the hundred, their days found by walking the calendar day by day, and the rule that the file has for
