@@ -90,10 +90,18 @@ class CheckTranslations(unittest.TestCase):
                 self.assertEqual(len(found), 2, found) # once for each catalogue
                 self.assertIn("'New'", found[0])
 
-    def test_a_function_of_a_header_serves_all_files(self):
+    def test_a_function_of_a_header_serves_the_files_that_include_it(self):
+        self.write("src/model/tr.h", HELPER)
+        self.write("src/model/all.h", '#include "model/tr.h"\n#include "model/all.h"\n')
+        for header in ("model/tr.h", "model/all.h"):
+            with self.subTest(header):
+                self.write("src/cli/new.cpp", f'#include "{header}"\nauto a = tr("New");')
+                self.assertEqual(len(self.findings()), 2)
+
+    def test_a_function_of_that_name_elsewhere_is_another(self):
         self.write("src/model/tr.h", HELPER)
         self.write("src/cli/new.cpp", 'auto a = tr("New");')
-        self.assertEqual(len(self.findings()), 2)
+        self.assertEqual(self.findings(), [])
 
     def test_what_is_not_asked_for_in_the_context_is_no_text(self):
         self.write("src/cli/other.cpp", 'auto a = tr("Of a class"); str("x"); // translate("DataExport", "Old")\n')
