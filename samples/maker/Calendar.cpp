@@ -48,6 +48,10 @@ void Calendar::write(const QJsonObject& source)
     for (const QJsonValue& calendar : entriesOf(source["calendars"])) {
         writeCalendar(calendar.toObject());
     }
+    // Last, or the rows behind it would take the place of what is left.
+    for (const qint64 item : m_erased) {
+        erase(item);
+    }
     m_database.run("COMMIT");
 }
 
@@ -84,7 +88,7 @@ void Calendar::writeEvent(const QJsonObject& source, qint64 calendar)
     writeAlarms(source, item);
     writePeople(source, item);
     if (source["erased"].toBool()) {
-        erase(item);
+        m_erased.push_back(item);
     }
 }
 

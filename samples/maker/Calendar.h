@@ -6,6 +6,8 @@
 #include <QJsonObject>
 #include <QMap>
 
+#include <vector>
+
 namespace sample {
 
 /// Makes the calendar of calendar.json.
@@ -29,6 +31,7 @@ private:
     Database& m_database;
     QMap<QString, qint64> m_stores; ///< by the names of their accounts
     QMap<QString, qint64> m_items;  ///< by title: series that others were moved out of
+    std::vector<qint64> m_erased;
     int m_calendars = 0;
     int m_events = 0;
 };

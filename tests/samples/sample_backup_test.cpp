@@ -189,10 +189,10 @@ TEST(SampleBackup, HasSoundDatabases)
 {
     for (const char* path : {"Library/SMS/sms.db", "Library/AddressBook/AddressBook.sqlitedb",
              "Library/AddressBook/AddressBookImages.sqlitedb",
-             "Library/CallHistoryDB/CallHistory.storedata", "Container_v1/Stores/Data-local.sqlite",
-             "Library/Safari/Bookmarks.db", "Library/Safari/History.db",
-             "Media/PhotoData/Photos.sqlite", "Recordings/CloudRecordings.db",
-             "Library/Voicemail/voicemail.db"}) {
+             "Library/CallHistoryDB/CallHistory.storedata", "Library/Calendar/Calendar.sqlitedb",
+             "Container_v1/Stores/Data-local.sqlite", "Library/Safari/Bookmarks.db",
+             "Library/Safari/History.db", "Media/PhotoData/Photos.sqlite",
+             "Recordings/CloudRecordings.db", "Library/Voicemail/voicemail.db"}) {
         SCOPED_TRACE(path);
         const auto database = Database::open(rowOf(path).payload(), OpenMode::Immutable);
         ASSERT_TRUE(database);
@@ -202,6 +202,16 @@ TEST(SampleBackup, HasSoundDatabases)
         // As on a phone: the header promises a write-ahead log.
         EXPECT_EQ(contents(rowOf(path).payload()).mid(18, 2).toHex(), "0202");
     }
+}
+
+TEST(SampleBackup, KeepsAnErasedEventInTheFreeSpaceAlone)
+{
+    const QString file = rowOf("Library/Calendar/Calendar.sqlitedb").payload();
+    const auto calendar = Database::open(file, OpenMode::Immutable);
+    ASSERT_TRUE(calendar);
+    EXPECT_EQ(
+        number(*calendar, "SELECT count(*) FROM CalendarItem WHERE summary = 'Blind date'"), 0);
+    EXPECT_TRUE(contents(file).contains("Blind date"));
 }
 
 TEST(SampleBackup, KeepsTheNewestMessagesInTheLogAlone)
