@@ -10,6 +10,8 @@
 #include <QLocale>
 
 #include <cmath>
+#include <filesystem>
+#include <system_error>
 
 namespace {
 
@@ -22,6 +24,7 @@ constexpr qint64 kFirstMs = -62'135'596'800'000; // 0001-01-01
 constexpr qint64 kLastMs = 253'402'300'799'999;  // 9999-12-31
 
 constexpr int kAlwaysProbed = 8; // numbers of a file name
+constexpr int kManyFiles = 100;  // of one name: then not even these
 
 struct Day {
     int year;
@@ -100,8 +103,10 @@ QString dateText(const QDateTime& date, bool local, bool withTime)
 
 bool isTaken(const QString& path)
 {
-    const QFileInfo info(path);
-    return info.exists() || info.isSymLink();
+    // One look at the path, where QFileInfo takes two to know of a link to nothing.
+    std::error_code unused;
+    const std::filesystem::path native(QFile::encodeName(path).toStdString());
+    return std::filesystem::exists(std::filesystem::symlink_status(native, unused));
 }
 
 QString numberedPath(const QDir& dir, const QString& base, const QString& ext, int number)
@@ -173,14 +178,17 @@ QString CCommonUtils::uniqFileName(
 QString CCommonUtils::uniqFileName(const QDir& dir, const QString& base, const QString& suffix)
 {
     static thread_local QHash<QString, int> handedOut; // by the path without a number
-    for (int number = 1; number <= kAlwaysProbed; ++number) {
+    const QString bare = numberedPath(dir, base, suffix, 1);
+    const int last = handedOut.value(bare);
+    const bool goesOn = last > 0 && isTaken(numberedPath(dir, base, suffix, last - 1));
+    for (int number = 1; number <= kAlwaysProbed && !(goesOn && last > kManyFiles); ++number) {
         QString path = numberedPath(dir, base, suffix, number);
         if (!isTaken(path)) {
             return path;
         }
     }
-    int& number = handedOut[numberedPath(dir, base, suffix, 1)];
-    if (number == 0 || !isTaken(numberedPath(dir, base, suffix, number - 1))) {
+    int& number = handedOut[bare];
+    if (!goesOn) {
         number = kAlwaysProbed + 1;
     }
     return freePath(dir, base, suffix, number);

@@ -117,7 +117,7 @@ void writeSource(CFileExporter& exporter, PRFileItem& file, const QString& path,
     } else if (hasPicture) {
         return;
     }
-    if (QFile::exists(path) && exporter.write(path, name)) {
+    if (exporter.write(path, name)) { // a source that is not there cannot be opened
         if (stampDate) {
             CCommonUtils::onModifyDateTime(name, file.getDetailInfoDateTime());
         }
