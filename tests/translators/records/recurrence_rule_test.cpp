@@ -148,6 +148,12 @@ TEST(RecurrenceRule, WeeklyCountsTheWeeksAndTheEventBesideThem)
             .start = {2024, 6, 7},
             .end = {2024, 6, 19},
             .rule = "FREQ=WEEKLY;COUNT=4;BYDAY=WE"},
+        // 2 + (7 + 7) / 7: with 6 more it would be one less
+        {.what = "earlier in the week, a week before the end",
+            .source = "1*2*D=0WE",
+            .start = {2024, 6, 7},
+            .end = {2024, 6, 14},
+            .rule = "FREQ=WEEKLY;COUNT=4;BYDAY=WE"},
         // 2 + (12 + 7) / 14
         {.what = "with an interval",
             .source = "2*2*D=0WE",
