@@ -35,8 +35,8 @@ QStringList tables(const Release& release = kNew)
                 " PRIMARY KEY (%2, %3))")
             .arg(release.join, release.album, release.asset),
         // Others have names of the same kind.
-        "CREATE TABLE Z_3MEMORIESBEINGCURATEDASSETS (Z_3CURATEDASSETS INTEGER, Z_44MEMORIES "
-        "INTEGER)",
+        R"(CREATE TABLE Z_3MEMORIESBEINGCURATEDASSETS (Z_3CURATEDASSETS INTEGER,
+            Z_44MEMORIES INTEGER))",
         "CREATE TABLE Z_1ASSETS (Z_1MOMENTS INTEGER, Z_3ASSETS INTEGER)"};
 }
 
