@@ -29,7 +29,7 @@ TEST(Gzip, GivesBackWhatWasCompressed)
         SCOPED_TRACE(size);
         QByteArray bytes(size, '\0');
         for (int place = 0; place < size; ++place) {
-            bytes[place] = static_cast<char>(place * place % 251);
+            bytes[place] = static_cast<char>(place % 251 * place % 251);
         }
         const auto fromGzip = inflated(sample::gzipped(bytes));
         ASSERT_TRUE(fromGzip);
