@@ -47,14 +47,8 @@ const char* JpegMarkers::take(const char* at, const char* end)
     case Expect::Start:
         takeStart(*at);
         return at + 1;
-    case Expect::Marker: {
-        const void* found = std::memchr(at, kFill, static_cast<std::size_t>(end - at));
-        if (found == nullptr) {
-            return end;
-        }
-        m_expect = Expect::Code;
-        return static_cast<const char*>(found) + 1;
-    }
+    case Expect::Marker:
+        return findMarker(at, end);
     case Expect::Code:
         takeCode(*at);
         return at + 1;
@@ -76,6 +70,16 @@ void JpegMarkers::takeStart(char byte)
         m_isUnusable = m_bytes != QByteArray("\xFF\xD8");
         m_expect = m_isUnusable ? Expect::Nothing : Expect::Marker;
     }
+}
+
+const char* JpegMarkers::findMarker(const char* at, const char* end)
+{
+    const void* found = std::memchr(at, kFill, static_cast<std::size_t>(end - at));
+    if (found == nullptr) {
+        return end;
+    }
+    m_expect = Expect::Code;
+    return static_cast<const char*>(found) + 1;
 }
 
 void JpegMarkers::takeCode(char byte)

@@ -20,6 +20,7 @@ private:
 
     const char* take(const char* at, const char* end);
     void takeStart(char byte);
+    const char* findMarker(const char* at, const char* end);
     void takeCode(char byte);
     void takeLength(char byte);
     const char* takeSegment(const char* at, const char* end);

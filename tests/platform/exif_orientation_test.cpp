@@ -42,7 +42,7 @@ TEST(SetUpright, LeavesDamagedBlocksAsTheyAre)
         {"empty", {}},
         {"no TIFF structure", "Exif" + whole},
         {"a directory past the end", QByteArray(whole).replace(4, 4, "\xFF\xFF\xFF\xFF", 4)},
-        {"a directory at the end", QByteArray(whole).replace(4, 1, "\x26", 1)},
+        {"a directory at the end", QByteArray(whole).replace(4, 1, QByteArray(1, 0x26))},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);

@@ -81,7 +81,8 @@ protected:
                 continue;
             }
             ++compared;
-            const bool decodes = markersDecode(markersOf(jpeg, 1 + random() % 20'000));
+            const bool decodes =
+                markersDecode(markersOf(jpeg, 1 + static_cast<qint64>(random() % 20'000)));
             const bool loads = qimageLoads(jpeg);
             decoded += decodes ? 1 : 0;
             loaded += loads ? 1 : 0;

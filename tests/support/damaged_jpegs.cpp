@@ -216,8 +216,7 @@ QByteArray makeJpeg(const JpegForm& form)
     jpeg_finish_compress(&info);
     jpeg_destroy_compress(&info);
     QByteArray jpeg(reinterpret_cast<const char*>(bytes), static_cast<int>(size));
-    std::free(
-        bytes); // NOLINT(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): libjpeg's
+    std::free(bytes); // NOLINT(cppcoreguidelines-owning-memory): libjpeg's
     return jpeg;
 }
 
