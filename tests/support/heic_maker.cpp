@@ -11,10 +11,10 @@
 
 // The encoder behind libheif keeps a kilobyte to the end of the process; a build under the leak
 // checker asks here what is not ours.
-// NOLINTNEXTLINE(bugprone-reserved-identifier): the name is the checker's
+// NOLINTNEXTLINE(clang-diagnostic-reserved-identifier): the name is the checker's
 extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions();
 
-// NOLINTNEXTLINE(bugprone-reserved-identifier): as above
+// NOLINTNEXTLINE(clang-diagnostic-reserved-identifier): as above
 extern "C" const char* __lsan_default_suppressions()
 {
     return "leak:libx265";
