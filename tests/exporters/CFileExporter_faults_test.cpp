@@ -195,7 +195,7 @@ TEST_F(FileExporterFaults, HeicComesOutAsItIsUnlessJpegIsAskedFor)
 {
     const QByteArray heic("\0\0\0\x18"
                           "ftypheic and so on",
-        26);
+        22);
     EXPECT_EQ(nameOfCopy(heic, "a.HEIC"), "a.HEIC");
     EXPECT_EQ(written(), QStringList("a.HEIC"));
     EXPECT_EQ(exporter.unconverted(), QStringList());
@@ -225,7 +225,7 @@ TEST_F(FileExporterFaults, HeicThatCannotBeConvertedComesOutAsItIsAndIsNamed)
     const LogMessages messages;
     const QByteArray heic("\0\0\0\x18"
                           "ftypheic and so on",
-        26);
+        22);
     QString name = "a.heic";
     EXPECT_TRUE(write(heic, name));
     EXPECT_EQ(written(), QStringList("a.heic"));

@@ -110,7 +110,7 @@ def is_in_turn(unit, interval, start, day):
     return passed % interval == 0
 
 
-KINDS = {  # name -> unit, the specifier of a start, whether a day is like the start
+KINDS = {  # name -> unit, what tells the day of a start, whether a day is like the start
     "daily": (1, lambda s: "", lambda s, d: True),
     "weekly": (2, lambda s: "", lambda s, d: d.weekday() == s.weekday()),
     "weekly, weekday named": (2, lambda s: f"D=0{DAYS[s.weekday()]}",

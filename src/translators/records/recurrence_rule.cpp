@@ -32,7 +32,7 @@ constexpr std::array kDays{"MO"_L1, "TU"_L1, "WE"_L1, "TH"_L1, "FR"_L1, "SA"_L1,
 
 enum Frequency { Daily = 1, Weekly = 2, Monthly = 3, Yearly = 4 };
 
-// What the specifier says; 0 where it says nothing.
+// What the rule says of the day; 0 where it says nothing.
 struct RuleParts {
     int weekday = 0; // 1 to 7
     int monthDay = 0;
