@@ -45,7 +45,7 @@ QString entityText(const QString& name)
 {
     const auto* const row = std::ranges::find(kEntities, name, &EntityRow::name);
     if (row != kEntities.end()) {
-        return QString(QChar(row->character));
+        return {QChar(row->character)};
     }
     if (!name.startsWith(QChar(u'#'))) {
         return {};
