@@ -22,6 +22,11 @@ Error damaged()
     return {.what = QStringLiteral("its compressed bytes are damaged")};
 }
 
+Error tooLarge(int limit)
+{
+    return {.what = QStringLiteral("it holds more than %1 bytes compressed").arg(limit)};
+}
+
 } // namespace
 
 Result<QByteArray> inflated(std::span<const unsigned char> bytes, int limit)
@@ -45,8 +50,7 @@ Result<QByteArray> inflated(std::span<const unsigned char> bytes, int limit)
         state = inflate(&stream, Z_NO_FLUSH);
         used = contents.size() - static_cast<int>(stream.avail_out);
         if (used > limit) {
-            return Error{
-                .what = QStringLiteral("it holds more than %1 bytes compressed").arg(limit)};
+            return tooLarge(limit);
         }
     }
     if (state != Z_STREAM_END) {

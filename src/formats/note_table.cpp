@@ -17,6 +17,7 @@
 #include <note_body.pb.h>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace formats {
@@ -52,11 +53,11 @@ public:
     const proto::TableObject& field(const std::string& name) const
     {
         for (const proto::TableObject& object : m_objects.object()) {
-            for (const proto::Field& field : object.fields().field()) {
-                const int key = field.key();
-                if (key >= 0 && key < m_objects.key_size() && m_objects.key(key) == name) {
-                    return at(field.value());
-                }
+            const auto& fields = object.fields().field();
+            const auto found = std::ranges::find_if(
+                fields, [&](const proto::Field& field) { return keyAt(field.key()) == name; });
+            if (found != fields.end()) {
+                return at(found->value());
             }
         }
         return proto::TableObject::default_instance();
@@ -72,6 +73,12 @@ public:
     }
 
 private:
+    std::string_view keyAt(int place) const
+    {
+        return place >= 0 && place < m_objects.key_size() ? m_objects.key(place)
+                                                          : std::string_view();
+    }
+
     const proto::TableObjects& m_objects;
 };
 

@@ -164,8 +164,9 @@ TEST(ExporterState, ACopyHasAllFields)
 {
     QEventLoop loop;
     const CBackupExporter original = withAllSet(loop);
-    const CBackupExporter copy(original);
+    CBackupExporter copy(original);
     expectAllSet(copy, loop);
+    copy = CBackupExporter();
     expectAllSet(original, loop);
 }
 

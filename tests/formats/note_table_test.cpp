@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <note_body.pb.h>
 #include <random>
 
@@ -104,9 +105,8 @@ TEST(NoteTable, SurvivesChangedBytes)
         }
         if (const auto table = parsed(sample::gzipped(changed))) {
             ++read;
-            for (const auto& row : *table) {
-                ASSERT_EQ(row.size(), table->front().size());
-            }
+            ASSERT_TRUE(std::ranges::all_of(
+                *table, [&](const auto& row) { return row.size() == table->front().size(); }));
         }
     }
     EXPECT_GT(read, 100);
