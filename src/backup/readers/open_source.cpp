@@ -49,7 +49,8 @@ QString tr(const char* text)
 /// A database that was found, with what its reader may need besides.
 struct FoundDatabase {
     OpenedDatabase database;
-    QString name; ///< how notices call it
+    QString domain; ///< where it was looked for
+    QString name;   ///< how notices call it: its path in that domain
     const SenderNames& names;
 };
 
@@ -187,32 +188,38 @@ void addContacts(FoundDatabase found, OpenedBackup& opened)
 struct SourceRow {
     QLatin1String domain;
     QLatin1String path;
-    bool everywhere = false; ///< each device has it: that it is missing is told
+    enum class Lies {
+        Everywhere, ///< each device has it: that it is missing is told
+        Somewhere,  ///< if not here, then in another domain
+        Here,       ///< other applications have files of the same path
+    } lies = Lies::Somewhere;
     bool (*isOfKind)(const formats::Database&) = nullptr; ///< by its tables
     void (*add)(FoundDatabase, OpenedBackup&) = nullptr;  ///< fills in what it holds
 };
 
+using Lies = SourceRow::Lies;
+
 // clang-format off
 constexpr std::array kSources{
-    SourceRow{"HomeDomain"_L1, "Library/SMS/sms.db"_L1, true, MessageStore::isMessageStore, addMessages},
-    SourceRow{kHome, kAddressBook, false, AddressBook::isAddressBook, addContacts},
-    SourceRow{kNotesDomain, "NoteStore.sqlite"_L1, false, NoteStore::isNoteStore, addNotes},
-    SourceRow{"HomeDomain"_L1, "Library/Notes/notes.sqlite"_L1, false, OldNoteStore::isOldNoteStore, addOldNotes},
-    SourceRow{"HomeDomain"_L1, "Library/CallHistoryDB/CallHistory.storedata"_L1, false, isCallHistory, addCalls},
-    SourceRow{"WirelessDomain"_L1, "Library/CallHistory/call_history.db"_L1, false, isOldCallHistory, addCalls},
-    SourceRow{"AppDomainGroup-group.com.apple.reminders"_L1, "Container_v1/Stores/*.sqlite"_L1, false, isReminderStore, addReminders},
-    SourceRow{"HomeDomain"_L1, "Library/Reminders/Container_v1/Stores/*.sqlite"_L1, false, isReminderStore, addReminders},
-    SourceRow{"HomeDomain"_L1, "Library/Calendar/Calendar.sqlitedb"_L1, false, isCalendarWithTasks, addReminders},
-    SourceRow{"HomeDomain"_L1, "Library/Calendar/Calendar.sqlitedb"_L1, false, isCalendar, addEvents},
-    SourceRow{"HomeDomain"_L1, "Library/Safari/Bookmarks.db"_L1, false, BookmarkData::isBookmarkStore, addBookmarks},
-    SourceRow{"HomeDomain"_L1, "Library/Safari/History.db"_L1, false, HistoryData::isHistory, addHistory},
-    SourceRow{"HomeDomain"_L1, "Library/Safari/Profiles/*/History.db"_L1, false, HistoryData::isHistory, addHistory},
-    SourceRow{"AppDomain-com.apple.mobilesafari"_L1, "Library/Safari/Profiles/*/History.db"_L1, false, HistoryData::isHistory, addHistory},
-    SourceRow{"CameraRollDomain"_L1, "Media/PhotoData/Photos.sqlite"_L1, false, isPhotoLibrary, addPhotos},
-    SourceRow{"AppDomainGroup-group.com.apple.VoiceMemos.shared"_L1, "Recordings/CloudRecordings.db"_L1, false, VoiceMemos::isRecordings, addVoiceMemos},
-    SourceRow{"MediaDomain"_L1, "Media/Recordings/CloudRecordings.db"_L1, false, VoiceMemos::isRecordings, addVoiceMemos},
-    SourceRow{"MediaDomain"_L1, "Media/Recordings/Recordings.db"_L1, false, VoiceMemos::isRecordings, addVoiceMemos},
-    SourceRow{"HomeDomain"_L1, "Library/Voicemail/voicemail.db"_L1, false, Voicemail::isVoicemail, addVoicemail},
+    SourceRow{"HomeDomain"_L1, "Library/SMS/sms.db"_L1, Lies::Everywhere, MessageStore::isMessageStore, addMessages},
+    SourceRow{kHome, kAddressBook, Lies::Somewhere, AddressBook::isAddressBook, addContacts},
+    SourceRow{kNotesDomain, "NoteStore.sqlite"_L1, Lies::Somewhere, NoteStore::isNoteStore, addNotes},
+    SourceRow{"HomeDomain"_L1, "Library/Notes/notes.sqlite"_L1, Lies::Somewhere, OldNoteStore::isOldNoteStore, addOldNotes},
+    SourceRow{"HomeDomain"_L1, "Library/CallHistoryDB/CallHistory.storedata"_L1, Lies::Somewhere, isCallHistory, addCalls},
+    SourceRow{"WirelessDomain"_L1, "Library/CallHistory/call_history.db"_L1, Lies::Somewhere, isOldCallHistory, addCalls},
+    SourceRow{"AppDomainGroup-group.com.apple.reminders"_L1, "Container_v1/Stores/*.sqlite"_L1, Lies::Somewhere, isReminderStore, addReminders},
+    SourceRow{"HomeDomain"_L1, "Library/Reminders/Container_v1/Stores/*.sqlite"_L1, Lies::Somewhere, isReminderStore, addReminders},
+    SourceRow{"HomeDomain"_L1, "Library/Calendar/Calendar.sqlitedb"_L1, Lies::Somewhere, isCalendarWithTasks, addReminders},
+    SourceRow{"HomeDomain"_L1, "Library/Calendar/Calendar.sqlitedb"_L1, Lies::Somewhere, isCalendar, addEvents},
+    SourceRow{"HomeDomain"_L1, "Library/Safari/Bookmarks.db"_L1, Lies::Somewhere, BookmarkData::isBookmarkStore, addBookmarks},
+    SourceRow{"HomeDomain"_L1, "Library/Safari/History.db"_L1, Lies::Somewhere, HistoryData::isHistory, addHistory},
+    SourceRow{"HomeDomain"_L1, "Library/Safari/Profiles/*/History.db"_L1, Lies::Somewhere, HistoryData::isHistory, addHistory},
+    SourceRow{"AppDomain-com.apple.mobilesafari"_L1, "Library/Safari/Profiles/*/History.db"_L1, Lies::Somewhere, HistoryData::isHistory, addHistory},
+    SourceRow{"CameraRollDomain"_L1, "Media/PhotoData/Photos.sqlite"_L1, Lies::Somewhere, isPhotoLibrary, addPhotos},
+    SourceRow{"AppDomainGroup-group.com.apple.VoiceMemos.shared"_L1, "Recordings/CloudRecordings.db"_L1, Lies::Somewhere, VoiceMemos::isRecordings, addVoiceMemos},
+    SourceRow{"MediaDomain"_L1, "Media/Recordings/CloudRecordings.db"_L1, Lies::Somewhere, VoiceMemos::isRecordings, addVoiceMemos},
+    SourceRow{"MediaDomain"_L1, "Media/Recordings/Recordings.db"_L1, Lies::Somewhere, VoiceMemos::isRecordings, addVoiceMemos},
+    SourceRow{"HomeDomain"_L1, "Library/Voicemail/voicemail.db"_L1, Lies::Somewhere, Voicemail::isVoicemail, addVoicemail},
 };
 
 /// A property list of an old release that fills a set which no database has filled.
@@ -264,12 +271,20 @@ void addFrom(const BackupFolder& device, const SourceRow& source, const SenderNa
 {
     const QStringList places = placesOf(device, source);
     for (const QString& path : places) {
-        auto database = openOrNote(device, source.domain, path, source.everywhere, *opened.notices);
+        if (source.lies == Lies::Here && !device.find(source.domain, path)) {
+            continue;
+        }
+        auto database = openOrNote(
+            device, source.domain, path, source.lies == Lies::Everywhere, *opened.notices);
         if (!database) {
             continue;
         }
         if (source.isOfKind(database->database)) {
-            source.add({.database = std::move(*database), .name = path, .names = names}, opened);
+            source.add({.database = std::move(*database),
+                           .domain = source.domain,
+                           .name = path,
+                           .names = names},
+                opened);
         } else {
             opened.notices->add(
                 tr("%1 of the backup is not of a kind that can be read.").arg(path));
@@ -320,13 +335,15 @@ void addFiles(const BackupFolder& device, OpenedBackup& opened)
     }
 }
 
-// The rows that know a database, one for each kind of records in it.
+// The rows that know a database, one for each kind of records in it. An application's twin has
+// databases of the same kind; a loose one passes for that of the first.
 std::vector<const SourceRow*> rowsOf(const formats::Database& database)
 {
     std::vector<const SourceRow*> rows;
     for (const SourceRow& row : kSources) {
-        const bool isNew = std::ranges::none_of(
-            rows, [&](const SourceRow* other) { return other->add == row.add; });
+        const bool isNew = std::ranges::none_of(rows, [&](const SourceRow* other) {
+            return other->add == row.add || other->isOfKind == row.isOfKind;
+        });
         if (isNew && row.isOfKind(database)) {
             rows.push_back(&row);
         }
@@ -383,10 +400,17 @@ formats::Result<OpenedBackup> openDatabaseFile(const QString& path)
         if (!own) {
             return own.error();
         }
-        row->add({.database = std::move(*own), .name = path, .names = SenderNames()}, opened);
+        row->add({.database = std::move(*own),
+                     .domain = row->domain,
+                     .name = path,
+                     .names = SenderNames()},
+            opened);
     }
-    rows.front()->add(
-        {.database = std::move(*database), .name = path, .names = SenderNames()}, opened);
+    rows.front()->add({.database = std::move(*database),
+                          .domain = rows.front()->domain,
+                          .name = path,
+                          .names = SenderNames()},
+        opened);
     return opened;
 }
 
