@@ -31,25 +31,29 @@ private:
 };
 
 /// For as long as it lives the process has no more rights than anybody: what its mode forbids is
-/// forbidden, also where the tests run as root.
+/// forbidden, also where the tests run as root. So is the way to a file, through folders that are
+/// not open to all. The real user changes too, for access(2), and Qt with it, asks after that one.
 class AsAnybody {
 public:
-    AsAnybody() : m_before(::geteuid())
+    AsAnybody() : m_isRoot(::geteuid() == 0)
     {
         constexpr uid_t kNobody = 65'534;
-        m_changed = m_before == 0 && ::seteuid(kNobody) == 0;
+        m_changed = m_isRoot && ::setresuid(kNobody, kNobody, 0) == 0; // the saved one leads back
     }
     AsAnybody(const AsAnybody&) = delete;
     AsAnybody& operator=(const AsAnybody&) = delete;
     ~AsAnybody()
     {
-        if (m_changed && ::seteuid(m_before) != 0) {
+        if (m_changed && ::setresuid(0, 0, 0) != 0) {
             ::_exit(1); // the tests that follow would fail for no reason of theirs
         }
     }
 
+    /// False where root could not lay down its rights.
+    bool holds() const { return m_changed || !m_isRoot; }
+
 private:
-    uid_t m_before;
+    bool m_isRoot;
     bool m_changed = false;
 };
 
