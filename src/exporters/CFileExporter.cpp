@@ -100,7 +100,7 @@ bool CFileExporter::write(const QString& src, QString& name)
         // Of a copy that was taken away the markers say nothing.
         written = copy == Copy::Whole ? loadsAsImage(name, markers) : !QImage(name).isNull();
     }
-    if (toConvert && !converted) {
+    if (toConvert && !converted && copy == Copy::Whole) {
         m_unconverted.append(name);
     }
     return written;

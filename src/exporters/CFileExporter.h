@@ -48,7 +48,8 @@ public:
     /// Full path of a free name in the present directory, as near to `name` as a file can have it.
     QString uniquePath(const QString& name) const;
 
-    /// The HEIC pictures of which no JPEG could be made: paths of their copies.
+    /// The HEIC pictures of which no JPEG could be made: paths of their copies. One that could not
+    /// be copied either is not among them, it failed as any other file.
     const QStringList& unconverted() const { return m_unconverted; }
 
 private:

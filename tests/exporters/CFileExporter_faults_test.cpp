@@ -6,6 +6,7 @@
 #include "support/heic_maker.h"
 #include "support/log_messages.h"
 #include "support/recording_progress.h"
+#include "support/small_disk.h"
 
 #include <functional>
 
@@ -108,6 +109,25 @@ TEST_F(FileExporterFaults, AFullDiskTakesTheCopyAwayAndIsAFailure)
     EXPECT_TRUE(exporter.write(source, name)) << "when there is room";
 }
 
+TEST_F(FileExporterFaults, ARealFullDiskKeepsNoPartAndHasItsRoomAgain)
+{
+    const support::SmallDisk disk(tree.path("out/Cat"), 4 * kChunk);
+    if (!disk.isThere()) {
+        GTEST_SKIP() << "no disk can be mounted";
+    }
+    const QByteArray tooMuch(5 * kChunk, 'x');
+    QString name = "a.mov";
+    EXPECT_FALSE(write(tooMuch, name));
+    EXPECT_EQ(name, tree.path("out/Cat/a.mov"));
+    EXPECT_FALSE(exporter.exportData(tooMuch, "b"));
+    EXPECT_EQ(written(), QStringList());
+    EXPECT_EQ(nameOfCopy(tooMuch.left(3 * kChunk), "c"), "c");
+    EXPECT_EQ(contents("c").size(), 3 * kChunk);
+    name = "d"; // a part of it has room beside the other
+    EXPECT_FALSE(write(tooMuch.left(2 * kChunk), name));
+    EXPECT_EQ(written(), QStringList("c"));
+}
+
 TEST_F(FileExporterFaults, AFullDiskFailsTheCheckOfAJpegToo)
 {
     const LogMessages silence;
@@ -116,6 +136,18 @@ TEST_F(FileExporterFaults, AFullDiskFailsTheCheckOfAJpegToo)
     QString name = "a.jpg";
     EXPECT_FALSE(exporter.write(source, name));
     EXPECT_EQ(written(), QStringList());
+}
+
+// Nothing lies at the first address of a process, so that reading there is an error.
+TEST_F(FileExporterFaults, ASourceThatOpensAndCannotBeReadLeavesNoCopy)
+{
+    RecordingProgress progress;
+    exporter.setProgress(&progress);
+    QString name = "a.mov";
+    EXPECT_FALSE(exporter.write("/proc/self/mem", name));
+    EXPECT_EQ(name, tree.path("out/Cat/a.mov")) << "a copy was begun";
+    EXPECT_EQ(written(), QStringList());
+    EXPECT_EQ(progress.calls(), QStringList());
 }
 
 TEST_F(FileExporterFaults, AFileThatGrowsIsCopiedToItsPresentEnd)
@@ -242,6 +274,38 @@ TEST_F(FileExporterFaults, AFileThatIsNoHeicIsNotConverted)
     EXPECT_EQ(nameOfCopy("....ftypmif1", "b.heic"), "b.heic");
     EXPECT_EQ(messages.lines(), QStringList());
     EXPECT_EQ(exporter.unconverted(), QStringList());
+}
+
+TEST_F(FileExporterFaults, HeicThatCannotBeCopiedEitherIsNotNamedAsACopy)
+{
+    convert();
+    const LogMessages silence;
+    const QByteArray heic = "....ftypheic" + QByteArray(2'000, 'x');
+    const QString source = tree.write("in/a", heic);
+    {
+        const support::LargestFile limit(1'000);
+        QString name = "a.heic";
+        EXPECT_FALSE(exporter.write(source, name));
+    }
+    EXPECT_EQ(written(), QStringList());
+    EXPECT_EQ(exporter.unconverted(), QStringList());
+}
+
+// The four bytes behind the name of the kind are a version of its own, which no decoder minds.
+TEST_F(FileExporterFaults, TheCheckOfAJpegReplacesTheResultOfAConversion)
+{
+    QByteArray heic = support::makeHeic(QImage(64, 64, QImage::Format_RGB32));
+    if (heic.isEmpty()) {
+        GTEST_SKIP() << "no encoder for HEIC";
+    }
+    heic.replace(12, 4, "jfif");
+    convert();
+    const LogMessages silence;
+    QString name = "a.heic";
+    EXPECT_FALSE(write(heic, name));
+    EXPECT_EQ(written(), QStringList({"a.heic.jpg", "a.jpg"}));
+    EXPECT_EQ(contents("a.heic.jpg"), heic);
+    EXPECT_FALSE(QImage(tree.path("out/Cat/a.jpg")).isNull());
 }
 
 // The conversion alone worked: its result stands, and `name` stays what it was.

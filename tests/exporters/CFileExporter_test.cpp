@@ -251,11 +251,23 @@ TEST_F(FileExporter, FetchesAnAddressForAFileThatIsNotThereUnderANumber)
     EXPECT_EQ(written(), QStringList(" (2)"));
 }
 
+TEST_F(FileExporter, AsksForNothingWithoutAPlaceForIt)
+{
+    support::HttpServer server;
+    server.answer("/a", support::HttpServer::reply(200, "fetched"));
+    EXPECT_TRUE(exporter.exportHttpData(server.address("/a"), ""));
+    EXPECT_TRUE(server.asked().empty());
+    EXPECT_EQ(written(), QStringList());
+}
+
 TEST_F(FileExporter, CallsEachFetchASuccess)
 {
     support::HttpServer server;
     EXPECT_TRUE(exporter.exportHttpData(server.address("/none"), tree.path("in/none.jpg")));
     EXPECT_TRUE(exporter.exportHttpData("no address", ""));
+    const QString local = tree.write("in/local.jpg", "before");
+    EXPECT_TRUE(exporter.exportHttpData(server.address("/none"), local));
+    EXPECT_FALSE(tree.exists("in/local.jpg")) << "it made room for what did not come";
     EXPECT_EQ(written(), QStringList());
 }
 

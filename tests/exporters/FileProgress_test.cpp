@@ -45,6 +45,17 @@ TEST(FileProgress, StopsAtItsTotal)
     EXPECT_EQ(grownParent.calls(), QStringList("step 100"));
 }
 
+TEST(FileProgress, GoesBackToATotalThatItHasPassed)
+{
+    RecordingProgress parent;
+    FileProgress progress(&parent, 100);
+    progress.step(90); // of the 100 at the start
+    progress.setTotal(60);
+    progress.step(10);
+    progress.step(10);
+    EXPECT_EQ(parent.calls(), QStringList({"step 90", "step -50", "step 0"}));
+}
+
 TEST(FileProgress, CountsATotalOf0As1)
 {
     RecordingProgress parent;
