@@ -2,43 +2,20 @@
 // Cancels, disks that are full, sources and targets that cannot be had, and HEIC pictures.
 #include "exporters/CFileExporter.h"
 #include "exporters/file_exporter_fixture.h"
+#include "support/acting_progress.h"
 #include "support/file_limits.h"
 #include "support/heic_maker.h"
 #include "support/log_messages.h"
 #include "support/recording_progress.h"
 #include "support/small_disk.h"
 
-#include <functional>
-
 namespace {
 
+using support::ActingProgress;
 using support::LogMessages;
 using support::RecordingProgress;
 
 constexpr int kChunk = 16'384;
-
-// Does something at each step.
-class ActingProgress final : public CIProgressCallback {
-public:
-    explicit ActingProgress(std::function<void()> act) : m_act(std::move(act)) {}
-
-    void initRange(int /*range*/) override {}
-    int range() override { return 0; }
-    bool step(double amount) override
-    {
-        m_position += amount;
-        m_act();
-        return true;
-    }
-    bool finish() override { return true; }
-    void setAttachStage(bool /*attachStage*/) override {}
-
-    double position() const { return m_position; }
-
-private:
-    std::function<void()> m_act;
-    double m_position = 0.0;
-};
 
 class FileExporterFaults : public FileExporterTest {
 protected:

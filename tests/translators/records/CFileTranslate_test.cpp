@@ -1,92 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "exporters/CFileExporter.h"
 #include "exporters/CHtmlExporter.h"
-#include "model/PRData.h"
-#include "model/PRFileItem.h"
 #include "support/file_limits.h"
 #include "support/heic_maker.h"
-#include "support/log_messages.h"
 #include "support/recording_progress.h"
-#include "support/temp_tree.h"
-#include "translators/records/CFileTranslate.h"
+#include "translators/records/file_translate_fixture.h"
 
-#include <QBuffer>
 #include <QDateTime>
-#include <QImage>
-
-#include <gtest/gtest.h>
-
-#include <utility>
 
 namespace {
 
 using support::LogMessages;
 using support::RecordingProgress;
-
-constexpr int kDocuments = 35;
-constexpr int kPhotos = 21;
-constexpr const char* kLine = "dataexport.FileExport|warning|";
-
-std::unique_ptr<PRFileItem> file(const QString& name, FileContent content)
-{
-    return std::make_unique<PRFileItem>(Record{.values = {name}}, std::move(content));
-}
-
-std::unique_ptr<PRFileItem> fileOf(const QString& parent, const QString& name, FileContent content)
-{
-    return std::make_unique<PRFileItem>(
-        Record{.values = {name}, .parent = parent}, std::move(content));
-}
-
-class FileTranslate : public testing::Test {
-protected:
-    template <typename... Items> void add(Items... items)
-    {
-        (records.push_back(std::move(items)), ...);
-    }
-
-    /// Puts what was added into "out/Cat" and tells the lines of the log behind the first.
-    QStringList run(
-        CIProgressCallback* progress = nullptr, int dataType = kDocuments, bool convertHeic = false)
-    {
-        const auto count = records.size();
-        PRData data(dataType, std::exchange(records, RecordList()));
-        CFileExporter exporter;
-        EXPECT_TRUE(exporter.openExport(QDir(tree.path("out")), "Anna", "Cat"));
-        const LogMessages messages;
-        EXPECT_TRUE(CFileTranslate(&data).translate(&exporter, progress, true, convertHeic));
-        QStringList lines = messages.lines();
-        lines.replaceInStrings(kLine, "");
-        EXPECT_EQ(lines.takeFirst(), QString("%1 files to export").arg(count));
-        return lines;
-    }
-
-    QStringList written() const
-    {
-        QStringList entries = tree.list().filter(QRegExp("^out/Cat/."));
-        return entries.replaceInStrings(QRegExp("^out/Cat/"), "");
-    }
-
-    QByteArray contents(const QString& name) const { return tree.read("out/Cat/" + name); }
-
-    static QByteArray encoded(const char* format)
-    {
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        QImage image(4, 4, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        EXPECT_TRUE(image.save(&buffer, format));
-        return buffer.data();
-    }
-
-    QString source(const QString& name, const QByteArray& bytes)
-    {
-        return tree.write("in/" + name, bytes);
-    }
-
-    support::TempTree tree;
-    RecordList records;
-};
+using FileTranslate = FileTranslateTest;
 
 TEST_F(FileTranslate, WantsAnExporterOfFiles)
 {
@@ -287,6 +213,19 @@ TEST_F(FileTranslate, NoFilesAtAllAreNoFailure)
     EXPECT_EQ(run(&progress), QStringList("1 AbItem not FileItem"));
     EXPECT_EQ(progress.calls(), QStringList("step 0"));
     EXPECT_EQ(written(), QStringList());
+}
+
+TEST_F(FileTranslate, WithoutFilesLeavesTheExporterItsProgress)
+{
+    CFileExporter exporter;
+    ASSERT_TRUE(exporter.openExport(QDir(tree.path("out")), "Anna", "Cat"));
+    RecordingProgress progress;
+    exporter.setProgress(&progress);
+    const LogMessages silence;
+    PRData none(kDocuments);
+    EXPECT_TRUE(CFileTranslate(&none).translate(&exporter, nullptr, false, false));
+    EXPECT_TRUE(exporter.exportData("12", "a"));
+    EXPECT_EQ(progress.calls(), QStringList("step 2"));
 }
 
 TEST_F(FileTranslate, MovesAHundredUnitsForEachRecordByTheirBytes)
