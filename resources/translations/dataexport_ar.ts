@@ -606,6 +606,51 @@
         <translation>فائتة</translation>
     </message>
     <message>
+        <source>Missed voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>مكالمة صوتية فائتة</translation>
+    </message>
+    <message>
+        <source>Missed video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>مكالمة فيديو فائتة</translation>
+    </message>
+    <message>
+        <source>Incoming voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>مكالمة صوتية واردة</translation>
+    </message>
+    <message>
+        <source>Incoming video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>مكالمة فيديو واردة</translation>
+    </message>
+    <message>
+        <source>Outgoing voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>مكالمة صوتية صادرة</translation>
+    </message>
+    <message>
+        <source>Outgoing video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>مكالمة فيديو صادرة</translation>
+    </message>
+    <message>
+        <source>[Unknown message]</source>
+        <extracomment>A line in a chat: a message of a kind that cannot be shown.</extracomment>
+        <translation>[رسالة غير معروفة]</translation>
+    </message>
+    <message>
+        <source>[System message]</source>
+        <extracomment>A line in a chat that the chat program itself wrote.</extracomment>
+        <translation>[رسالة من النظام]</translation>
+    </message>
+    <message>
+        <source>[Sticker]</source>
+        <extracomment>In a chat, for a sticker whose picture is not there.</extracomment>
+        <translation>[ملصق]</translation>
+    </message>
+    <message>
         <source>Other app</source>
         <extracomment>Service of a call: an app that is not known by name.</extracomment>
         <translation>تطبيق آخر</translation>

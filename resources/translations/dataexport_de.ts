@@ -606,6 +606,51 @@
         <translation>Verpasst</translation>
     </message>
     <message>
+        <source>Missed voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Verpasster Sprachanruf</translation>
+    </message>
+    <message>
+        <source>Missed video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Verpasster Videoanruf</translation>
+    </message>
+    <message>
+        <source>Incoming voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Eingehender Sprachanruf</translation>
+    </message>
+    <message>
+        <source>Incoming video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Eingehender Videoanruf</translation>
+    </message>
+    <message>
+        <source>Outgoing voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Ausgehender Sprachanruf</translation>
+    </message>
+    <message>
+        <source>Outgoing video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Ausgehender Videoanruf</translation>
+    </message>
+    <message>
+        <source>[Unknown message]</source>
+        <extracomment>A line in a chat: a message of a kind that cannot be shown.</extracomment>
+        <translation>[Unbekannte Nachricht]</translation>
+    </message>
+    <message>
+        <source>[System message]</source>
+        <extracomment>A line in a chat that the chat program itself wrote.</extracomment>
+        <translation>[Systemnachricht]</translation>
+    </message>
+    <message>
+        <source>[Sticker]</source>
+        <extracomment>In a chat, for a sticker whose picture is not there.</extracomment>
+        <translation>[Sticker]</translation>
+    </message>
+    <message>
         <source>Other app</source>
         <extracomment>Service of a call: an app that is not known by name.</extracomment>
         <translation>Andere App</translation>

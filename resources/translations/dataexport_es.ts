@@ -606,6 +606,51 @@
         <translation>Perdida</translation>
     </message>
     <message>
+        <source>Missed voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Llamada de voz perdida</translation>
+    </message>
+    <message>
+        <source>Missed video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Videollamada perdida</translation>
+    </message>
+    <message>
+        <source>Incoming voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Llamada de voz entrante</translation>
+    </message>
+    <message>
+        <source>Incoming video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Videollamada entrante</translation>
+    </message>
+    <message>
+        <source>Outgoing voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Llamada de voz saliente</translation>
+    </message>
+    <message>
+        <source>Outgoing video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Videollamada saliente</translation>
+    </message>
+    <message>
+        <source>[Unknown message]</source>
+        <extracomment>A line in a chat: a message of a kind that cannot be shown.</extracomment>
+        <translation>[Mensaje desconocido]</translation>
+    </message>
+    <message>
+        <source>[System message]</source>
+        <extracomment>A line in a chat that the chat program itself wrote.</extracomment>
+        <translation>[Mensaje del sistema]</translation>
+    </message>
+    <message>
+        <source>[Sticker]</source>
+        <extracomment>In a chat, for a sticker whose picture is not there.</extracomment>
+        <translation>[Sticker]</translation>
+    </message>
+    <message>
         <source>Other app</source>
         <extracomment>Service of a call: an app that is not known by name.</extracomment>
         <translation>Otra app</translation>

@@ -606,6 +606,51 @@
         <translation>Persa</translation>
     </message>
     <message>
+        <source>Missed voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Chiamata vocale persa</translation>
+    </message>
+    <message>
+        <source>Missed video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Videochiamata persa</translation>
+    </message>
+    <message>
+        <source>Incoming voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Chiamata vocale in entrata</translation>
+    </message>
+    <message>
+        <source>Incoming video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Videochiamata in entrata</translation>
+    </message>
+    <message>
+        <source>Outgoing voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Chiamata vocale in uscita</translation>
+    </message>
+    <message>
+        <source>Outgoing video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Videochiamata in uscita</translation>
+    </message>
+    <message>
+        <source>[Unknown message]</source>
+        <extracomment>A line in a chat: a message of a kind that cannot be shown.</extracomment>
+        <translation>[Messaggio sconosciuto]</translation>
+    </message>
+    <message>
+        <source>[System message]</source>
+        <extracomment>A line in a chat that the chat program itself wrote.</extracomment>
+        <translation>[Messaggio di sistema]</translation>
+    </message>
+    <message>
+        <source>[Sticker]</source>
+        <extracomment>In a chat, for a sticker whose picture is not there.</extracomment>
+        <translation>[Sticker]</translation>
+    </message>
+    <message>
         <source>Other app</source>
         <extracomment>Service of a call: an app that is not known by name.</extracomment>
         <translation>Altra app</translation>

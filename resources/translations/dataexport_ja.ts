@@ -606,6 +606,51 @@
         <translation>不在着信</translation>
     </message>
     <message>
+        <source>Missed voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>不在着信(音声通話)</translation>
+    </message>
+    <message>
+        <source>Missed video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>不在着信(ビデオ通話)</translation>
+    </message>
+    <message>
+        <source>Incoming voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>着信(音声通話)</translation>
+    </message>
+    <message>
+        <source>Incoming video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>着信(ビデオ通話)</translation>
+    </message>
+    <message>
+        <source>Outgoing voice call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>発信(音声通話)</translation>
+    </message>
+    <message>
+        <source>Outgoing video call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>発信(ビデオ通話)</translation>
+    </message>
+    <message>
+        <source>[Unknown message]</source>
+        <extracomment>A line in a chat: a message of a kind that cannot be shown.</extracomment>
+        <translation>[不明なメッセージ]</translation>
+    </message>
+    <message>
+        <source>[System message]</source>
+        <extracomment>A line in a chat that the chat program itself wrote.</extracomment>
+        <translation>[システムメッセージ]</translation>
+    </message>
+    <message>
+        <source>[Sticker]</source>
+        <extracomment>In a chat, for a sticker whose picture is not there.</extracomment>
+        <translation>[スタンプ]</translation>
+    </message>
+    <message>
         <source>Other app</source>
         <extracomment>Service of a call: an app that is not known by name.</extracomment>
         <translation>その他のアプリ</translation>
