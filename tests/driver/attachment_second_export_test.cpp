@@ -4,6 +4,7 @@
 #include "driver/fetch_run.h"
 #include "support/http_server.h"
 #include "support/log_messages.h"
+#include "support/protect_calls.h"
 #include "support/recording_progress.h"
 #include "support/temp_tree.h"
 
@@ -111,7 +112,41 @@ TEST_F(FilesAgain, FillTheScaleOfTheStage)
         moved += call.startsWith("step ") ? call.midRef(5).toDouble() : 0;
     }
     EXPECT_NEAR(moved, 300, 0.001);
+    EXPECT_EQ(calls.size() - begin, 9) << "two steps for each file, and no more at their end";
     EXPECT_EQ(calls.last(), "finish");
+}
+
+TEST_F(FilesAgain, LiftTheProtectionOfWhatWasFetched)
+{
+    for (const bool fromDFU : {false, true}) {
+        SCOPED_TRACE(fromDFU);
+        RecordList records;
+        records.push_back(file("a.txt", server.address("/a")));
+        backup.add(std::make_unique<PRData>(15, std::move(records)));
+        CBackupExporter exporter;
+        exporter.setFromDFU(fromDFU);
+        const support::ProtectCalls calls;
+        exporter.exportBackup(&backup, root(), nullptr, {15}, false, "Anna");
+        const QStringList lifted{"open " + server.address("/a"), "close " + server.address("/a"),
+            "open " + pathOf(0), "close " + pathOf(0)};
+        EXPECT_EQ(joined(calls.calls()), joined(fromDFU ? lifted : QStringList()));
+    }
+}
+
+TEST_F(FilesAgain, AreConvertedWhereThatIsAskedFor)
+{
+    server.answer("/a", HttpServer::reply(200, "....ftypheic and no picture"));
+    for (const bool convert : {false, true}) {
+        SCOPED_TRACE(convert);
+        RecordList records;
+        records.push_back(file(convert ? "b.heic" : "a.heic", server.address("/a")));
+        backup.add(std::make_unique<PRData>(15, std::move(records)));
+        CBackupExporter exporter;
+        exporter.exportBackup(&backup, root(), nullptr, {15}, convert, "Anna");
+        EXPECT_EQ(exporter.unconvertedPictures(),
+            convert ? QStringList(root().filePath("WeChat Attachments/b.heic")) : QStringList());
+    }
+    EXPECT_TRUE(root().exists("WeChat Attachments/a.heic"));
 }
 
 TEST_F(FilesAgain, AreNotWrittenBehindACancelInTheLastStep)

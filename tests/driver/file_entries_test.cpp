@@ -4,6 +4,7 @@
 #include "model/CSubProgress.h"
 #include "model/PRFileItem.h"
 #include "support/log_messages.h"
+#include "support/protect_calls.h"
 #include "support/recording_progress.h"
 
 #include <utility>
@@ -114,16 +115,25 @@ TEST_F(FileEntry, ServesAllTypesOfFiles)
     }
 }
 
-TEST_F(FileEntry, OfProtectedBackupsWritesTheSame)
+TEST_F(FileEntry, OfProtectedBackupsLiftsTheProtectionOfAllButRingtones)
 {
-    for (const int type : {21, 32}) {
-        SCOPED_TRACE(type);
+    struct {
+        int type = 0;
+        bool fromDFU = false;
+        bool lifted = false;
+    } const rows[] = {{21, true, true}, {35, true, true}, {32, true, false}, {21, false, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.type);
         QDir(root().filePath("Cat")).removeRecursively();
-        PRData data = setOf(type, file("a", "", writeHalfHeic()), file("b", "1"));
+        const QString path = writeHalfHeic();
+        PRData data = setOf(row.type, file("a", "", path), file("b", "1"));
         CBackupExporter exporter;
-        exporter.setFromDFU(true);
+        exporter.setFromDFU(row.fromDFU);
+        const support::ProtectCalls calls;
         EXPECT_TRUE(run(data, nullptr, exporter));
         EXPECT_EQ(tree(), QStringList({"Cat/", "Cat/a", "Cat/b", "half"}));
+        EXPECT_EQ(calls.calls(),
+            row.lifted ? QStringList({"open " + path, "close " + path}) : QStringList());
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/OvCurlWrapper.h"
 #include "support/environment_variable.h"
+#include "support/file_limits.h"
 #include "support/http_server.h"
 #include "support/temp_tree.h"
 
@@ -332,5 +333,20 @@ TEST(OvCurlWrapper, FailsWhereTheFileCannotBeMade)
         OvCurlWrapper curl;
         EXPECT_FALSE(curl.download(server.address("/a"), tree.path(path), true));
         EXPECT_EQ(tree.list(), QStringList({"directory/"}));
+    }
+}
+
+TEST(OvCurlWrapper, LeavesNoPartOfABodyForWhichTheDiskHasNoRoom)
+{
+    for (const std::size_t size : {10, 3'000'000}) { // seen at the end, and on the way
+        SCOPED_TRACE(size);
+        HttpServer server;
+        server.answer("/a", HttpServer::reply(200, std::string(size, 'b')));
+        const TempTree tree;
+        const support::LargestFile limit(5);
+        OvCurlWrapper curl;
+        EXPECT_FALSE(curl.download(server.address("/a"), tree.path("file"), true));
+        EXPECT_EQ(curl.httpCode(), 200); // an answer came
+        EXPECT_TRUE(tree.list().isEmpty());
     }
 }
