@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //   Messages  12  out/Messages
 //   Exported 12 records in 0.4 s
+//   Could not be fetched: 2 attachments
 //   Could not be written as JPEG, and are copied as they are:
 //     out/Photos/IMG_0001.HEIC
 #include "cli/ExportCommand.h"
@@ -15,6 +16,7 @@
 #include "cli/owner_name.h"
 #include "cli/progress_view.h"
 #include "cli/target_checks.h"
+#include "cli/unfetched.h"
 #include "driver/CBackupExporter.h"
 #include "platform/OvResourceMgr.h"
 #include "platform/literals.h"
@@ -245,6 +247,10 @@ int ExportCommand::tellResult(const Request& request, const ExportPlan& plan,
                      : "Exported "_L1 + counted(total, "record"_L1) + " in "_L1
                            + QString::number(static_cast<double>(elapsedMs) / 1000.0, 'f', 1)
                            + " s"_L1);
+    const int unfetched = unfetchedAttachments(records, plan.written);
+    if (unfetched != 0) {
+        lines.append("Could not be fetched: "_L1 + counted(unfetched, "attachment"_L1));
+    }
     lines += unconvertedLines(request.target, unconverted);
     if (m_console.verbosity() != Verbosity::Quiet) {
         m_console.print(lines.join(QChar(u'\n')));

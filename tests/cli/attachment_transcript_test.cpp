@@ -83,6 +83,59 @@ TEST_F(AttachmentTranscript, TellsOfFailuresWhenItIsToTellAll)
     EXPECT_EQ(verbose.status, AllDone);
 }
 
+TEST_F(AttachmentTranscript, CountsThoseThatCouldNotBeFetchedInTheSummary)
+{
+    server.answer("/3", HttpServer::reply(404, "not here"));
+    const auto exported = [this](const QString& target) {
+        return runProgramIn(tree.path(), {"export", "anna.json", target}).output;
+    };
+    EXPECT_TRUE(exported("one").endsWith(" s\nCould not be fetched: 1 attachment\n"));
+    server.answer("/5", HttpServer::reply(503, "later"));
+    EXPECT_TRUE(exported("two").endsWith(" s\nCould not be fetched: 2 attachments\n"));
+    server.answer("/3", HttpServer::reply(200, "here"));
+    server.answer("/5", HttpServer::reply(200, "here"));
+    EXPECT_FALSE(exported("none").contains("fetched"));
+}
+
+// Chats of which a part is selected, records that are not, other types: nobody wanted them.
+TEST_F(AttachmentTranscript, CountsWantedAttachmentsAlone)
+{
+    const QByteArray gone = server.address("/gone").toUtf8();
+    const auto file = [](const QByteArray& path, const char* selected) {
+        return R"({"values": ["a.jpg"], "path": ")" + path + R"(", "selected": )" + selected + "}";
+    };
+    const auto message = [&gone](const char* checked) {
+        return R"({"type": 1, "media": ")" + gone + R"(", "checked": )" + checked + "}";
+    };
+    tree.write("here.jpg", "x");
+    const QByteArray files =
+        file(gone, "true") + ", " + file(gone, "false") + ", " + file("here.jpg", "true");
+    const QByteArray messages = message("true") + ", " + message("false");
+    tree.write("parts.json",
+        R"({"recordSet": 1, "sets": [
+            {"dataType": 14, "records": [{"kind": "chat", "values": ["Mia"],
+                "flags": [16], "messages": [)"
+            + messages + R"(]}]},
+            {"dataType": 15, "records": [)"
+            + files + R"(]}, {"dataType": 18, "records": [)" + files + "]}]}");
+    struct {
+        const char* only = nullptr;
+        QByteArray end;
+    } const rows[] = {
+        {"14,15,18", "Could not be fetched: 2 attachments\n"},
+        {"14", "Could not be fetched: 1 attachment\n"},
+        {"15", "Could not be fetched: 1 attachment\n"},
+        {"18", " s\n"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.only);
+        const QByteArray output = runProgramIn(
+            tree.path(), {"export", "parts.json", QString("out ") + row.only, "--only", row.only})
+                                      .output;
+        EXPECT_TRUE(output.endsWith(row.end)) << output.toStdString();
+    }
+}
+
 TEST_F(AttachmentTranscript, LeavesNoTemporaryFiles)
 {
     const support::TempTree temporary;
