@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Of AddressBook.sqlitedb, what names need:
-//   ABPerson      ROWID, First, Last, Nickname, Organization
+// Of AddressBook.sqlitedb, beside the names of people:
 //   ABMultiValue  record_id -> ABPerson.ROWID, property 3 phone or 4 e-mail, value
 #include "backup/readers/SenderNames.h"
 
+#include "backup/container/Notices.h"
+#include "backup/readers/contact_people.h"
+#include "backup/readers/table_reader.h"
 #include "formats/sqlite.h"
 #include "platform/literals.h"
 
@@ -30,45 +32,24 @@ QString digitsOf(QString number)
     return digits;
 }
 
-bool isEastAsian(const QString& name)
-{
-    return std::ranges::any_of(name, [](QChar c) {
-        return c.script() == QChar::Script_Han || c.script() == QChar::Script_Hiragana
-               || c.script() == QChar::Script_Katakana || c.script() == QChar::Script_Hangul;
-    });
-}
-
-QString personName(const formats::Statement& person)
-{
-    QString first = person.text(2);
-    QString last = person.text(3);
-    if (isEastAsian(first + last)) {
-        std::swap(first, last); // the family name leads
-    }
-    QString name = (first + QChar(u' ') + last).simplified();
-    if (!name.isEmpty()) {
-        return name;
-    }
-    const QString organization = person.text(4).simplified();
-    return organization.isEmpty() ? person.text(5).simplified() : organization;
-}
-
 } // namespace
 
 SenderNames::SenderNames(const formats::Database& addressBook)
 {
+    Notices unheard; // the reader of contacts tells what is wrong with the same store
+    const QHash<qint64, QString> names =
+        readCardNames(TableReader(addressBook, QString(), unheard));
     auto query = addressBook.prepare(
-        "SELECT v.property, v.value, p.First, p.Last, p.Organization, p.Nickname"
-        " FROM ABMultiValue v JOIN ABPerson p ON p.ROWID = v.record_id"
-        " WHERE v.property IN (3, 4) AND v.value IS NOT NULL ORDER BY p.ROWID, v.UID"_L1);
+        "SELECT record_id, property, value FROM ABMultiValue"
+        " WHERE property IN (3, 4) AND value IS NOT NULL ORDER BY record_id, UID"_L1);
     while (query && query->next()) {
-        const QString name = personName(*query);
+        const QString name = names.value(query->integer(0));
         if (name.isEmpty()) {
             continue;
         }
-        if (query->integer(0) == kPhone) {
-            addPhone(query->text(1), name);
-        } else if (const QString email = query->text(1).trimmed().toLower();
+        if (query->integer(1) == kPhone) {
+            addPhone(query->text(2), name);
+        } else if (const QString email = query->text(2).trimmed().toLower();
                    !m_emails.contains(email)) {
             m_emails.insert(email, name);
         }

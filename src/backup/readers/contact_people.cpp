@@ -126,20 +126,27 @@ bool tellsOfPicture(const formats::Statement& row)
            || !row.textView(ImageUri).empty();
 }
 
+// Without its place in the list.
+Card cardOf(const formats::Statement& row, const ContactName& name)
+{
+    QString shown = displayName(name);
+    if (shown.isEmpty()) {
+        shown = withoutMarks(row.text(Fallback)).simplified();
+    }
+    return {.id = row.integer(Id),
+        .name = std::move(shown),
+        .sortKey = {},
+        .link = row.isNull(PersonLink) ? -1 : row.integer(PersonLink),
+        .givesName = row.isNull(IsPreferredName) || row.integer(IsPreferredName) != 0};
+}
+
 std::vector<Card> readCards(const TableReader& store, bool& havePictures)
 {
     std::vector<Card> cards;
     store.read("ABPerson"_L1, columns(), [&](const formats::Statement& row) {
         const ContactName name = nameOf(row);
-        QString shown = displayName(name);
-        if (shown.isEmpty()) {
-            shown = withoutMarks(row.text(Fallback)).simplified();
-        }
-        cards.push_back({.id = row.integer(Id),
-            .name = std::move(shown),
-            .sortKey = placeOf(row, name),
-            .link = row.isNull(PersonLink) ? -1 : row.integer(PersonLink),
-            .givesName = row.isNull(IsPreferredName) || row.integer(IsPreferredName) != 0});
+        cards.push_back(cardOf(row, name));
+        cards.back().sortKey = placeOf(row, name);
         havePictures = havePictures || tellsOfPicture(row);
     });
     return cards;
@@ -158,19 +165,25 @@ Links readLinks(const TableReader& store)
     return links;
 }
 
-// The cards of each person; 0 and -1 both serve as "none".
+// 0 and -1 both serve as "none".
+bool isLinked(const Card& card, const Links& links)
+{
+    return card.link > 0 || (card.link == 0 && links.contains(0));
+}
+
+// The cards of each person.
 std::vector<std::vector<Card>> grouped(std::vector<Card> cards, const Links& links)
 {
     std::vector<std::vector<Card>> groups;
     QHash<qint64, std::size_t> groupOfLink;
     for (Card& card : cards) {
-        const bool isLinked = card.link > 0 || (card.link == 0 && links.contains(0));
-        const auto found = isLinked ? groupOfLink.constFind(card.link) : groupOfLink.cend();
+        const bool mayHaveOthers = isLinked(card, links);
+        const auto found = mayHaveOthers ? groupOfLink.constFind(card.link) : groupOfLink.cend();
         if (found != groupOfLink.cend()) {
             groups[*found].push_back(std::move(card));
             continue;
         }
-        if (isLinked) {
+        if (mayHaveOthers) {
             groupOfLink.insert(card.link, groups.size());
         }
         groups.emplace_back().push_back(std::move(card));
@@ -242,6 +255,33 @@ ContactPeople readContactPeople(const TableReader& store, ContactValues& values)
         people.list.push_back(std::move(person));
     }
     return people;
+}
+
+QHash<qint64, QString> readCardNames(const TableReader& store)
+{
+    const Links links = readLinks(store);
+    QHash<qint64, QString> names;
+    const auto keep = [&names](qint64 card, const QString& name) {
+        if (!name.isEmpty()) {
+            names.insert(card, name);
+        }
+    };
+    std::vector<Card> linked;
+    store.read("ABPerson"_L1, columns(), [&](const formats::Statement& row) {
+        Card card = cardOf(row, nameOf(row));
+        if (isLinked(card, links)) {
+            linked.push_back(std::move(card));
+        } else {
+            keep(card.id, card.name);
+        }
+    });
+    for (std::vector<Card>& person : grouped(std::move(linked), links)) {
+        putNameFirst(person, links.value(person.front().link));
+        for (const Card& card : person) {
+            keep(card.id, person.front().name);
+        }
+    }
+    return names;
 }
 
 } // namespace backup

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QString>
 
 #include <vector>
@@ -24,5 +25,9 @@ struct ContactPeople {
 
 /// Reads the people of an address book; `values` name those who have no name.
 ContactPeople readContactPeople(const TableReader& store, ContactValues& values);
+
+/// The names of people by their cards, rows of ABPerson: the same as those of the list. Who has no
+/// name is missing.
+QHash<qint64, QString> readCardNames(const TableReader& store);
 
 } // namespace backup

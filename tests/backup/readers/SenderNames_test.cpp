@@ -16,10 +16,16 @@ protected:
         const QString path = m_directory.filePath(QString("%1.sqlitedb").arg(++m_made));
         sqlite3* database = nullptr;
         EXPECT_EQ(sqlite3_open(path.toUtf8().constData(), &database), SQLITE_OK);
-        const QString schema = "CREATE TABLE ABPerson (ROWID INTEGER PRIMARY KEY, First TEXT,"
-                               " Last TEXT, Nickname TEXT, Organization TEXT);"
-                               "CREATE TABLE ABMultiValue (UID INTEGER PRIMARY KEY,"
-                               " record_id INTEGER, property INTEGER, value TEXT);";
+        const QString schema =
+            "CREATE TABLE ABPerson (ROWID INTEGER PRIMARY KEY, First TEXT, Last TEXT, Middle TEXT,"
+            " Prefix TEXT, Suffix TEXT, FirstPhonetic TEXT, Nickname TEXT, Organization TEXT,"
+            " CompositeNameFallback TEXT, Kind INTEGER, PersonLink INTEGER DEFAULT -1,"
+            " IsPreferredName INTEGER DEFAULT 1);"
+            "CREATE TABLE ABPersonLink (ROWID INTEGER PRIMARY KEY,"
+            " PreferredImagePersonID INTEGER DEFAULT -1,"
+            " PreferredNamePersonID INTEGER DEFAULT -1);"
+            "CREATE TABLE ABMultiValue (UID INTEGER PRIMARY KEY,"
+            " record_id INTEGER, property INTEGER, value TEXT);";
         EXPECT_EQ(
             sqlite3_exec(database, (schema + rows).toUtf8().constData(), nullptr, nullptr, nullptr),
             SQLITE_OK)
@@ -81,30 +87,78 @@ TEST_F(SenderNamesTest, EmailsMatchWithoutRegardToCase)
     EXPECT_EQ(names.nameOf("mia@example.com"), "");
 }
 
-TEST_F(SenderNamesTest, NameIsThatOfThePersonElseOfTheOrganizationElseTheNickname)
+TEST_F(SenderNamesTest, NameIsThatUnderWhichThePersonStandsAmongTheContacts)
 {
     struct Row {
         const char* what;
-        const char* columns; // First, Last, Nickname, Organization
+        const char* columns;
+        const char* values;
         const char* name;
     };
     static constexpr Row kRows[] = {
-        {"both names", "'Mia','Berg','Mi','Flowers'", "Mia Berg"},
-        {"first name", "'Mia',NULL,'Mi','Flowers'", "Mia"},
-        {"last name", "NULL,'Berg','Mi','Flowers'", "Berg"},
-        {"organization", "NULL,NULL,'Mi','Flowers'", "Flowers"},
-        {"nickname", "NULL,NULL,'Mi',NULL", "Mi"},
-        {"nothing", "NULL,NULL,NULL,NULL", ""},
-        {"family name first in Japanese", "'由紀','田中',NULL,NULL", "田中 由紀"},
+        {"both names", "First, Last, Nickname, Organization", "'Mia','Berg','Mi','Flowers'",
+            "Mia Berg"},
+        {"first name", "First, Nickname, Organization", "'Mia','Mi','Flowers'", "Mia"},
+        {"last name", "Last, Nickname, Organization", "'Berg','Mi','Flowers'", "Berg"},
+        {"all parts", "Prefix, First, Middle, Last, Suffix", "'Dr.','Ina','M.','Petersen','MD'",
+            "Dr. Ina M. Petersen MD"},
+        {"blanks around", "First, Last", "' Ina ','Petersen  '", "Ina Petersen"},
+        {"a mark of direction", "First", "char(8234) || 'Ina' || char(8236)", "Ina"},
+        {"organization", "Organization, Nickname", "'Flowers','Mi'", "Flowers"},
+        {"organization with a person", "First, Organization, Kind", "'Mia','Flowers',1", "Flowers"},
+        {"nickname", "Nickname", "'Mi'", "Mi"},
+        {"what the phone shows else", "CompositeNameFallback", "'Parcels'", "Parcels"},
+        {"nothing", "First", "NULL", ""},
+        {"Chinese", "First, Last", "'明','李'", "李明"},
+        {"Korean", "First, Last", "'민준','김'", "김민준"},
+        {"Japanese, spoken in kana", "First, Last, FirstPhonetic", "'由紀','田中','ゆき'",
+            "田中 由紀"},
+        {"Japanese, with kana", "First, Last", "'さくら','高橋'", "高橋 さくら"},
     };
     for (const Row& row : kRows) {
         SCOPED_TRACE(row.what);
         const backup::SenderNames names =
-            read(QString("INSERT INTO ABPerson (First, Last, Nickname, Organization) VALUES (%1);"
+            read(QString("INSERT INTO ABPerson (%1) VALUES (%2);"
                          "INSERT INTO ABMultiValue (record_id, property, value)"
                          " VALUES (1, 3, '5550101');")
-                     .arg(row.columns));
+                     .arg(row.columns, row.values));
         EXPECT_EQ(names.nameOf("5550101"), QString(row.name));
+    }
+}
+
+// Card 1 has the phone, card 2 the e-mail address and the name that is preferred.
+TEST_F(SenderNamesTest, LinkedCardsHaveTheNameOfThePerson)
+{
+    struct Row {
+        const char* what;
+        const char* rows;
+        const char* ofPhone;
+        const char* ofEmail;
+    };
+    static constexpr Row kRows[] = {
+        {"linked", "UPDATE ABPerson SET PersonLink = 5;", "Thomas Berg", "Thomas Berg"},
+        {"the table of links goes before",
+            "UPDATE ABPerson SET PersonLink = 5; INSERT INTO ABPersonLink VALUES (5, -1, 1);",
+            "Tom", "Tom"},
+        {"a card without a name gives none",
+            "UPDATE ABPerson SET PersonLink = 5, First = NULL, Last = NULL WHERE ROWID = 2;"
+            "UPDATE ABPerson SET PersonLink = 5 WHERE ROWID = 1;",
+            "Tom", "Tom"},
+        {"neither has a name", "UPDATE ABPerson SET PersonLink = 5, First = NULL, Last = NULL;", "",
+            ""},
+        {"0 is no link", "UPDATE ABPerson SET PersonLink = 0;", "Tom", "Thomas Berg"},
+        {"other links", "UPDATE ABPerson SET PersonLink = ROWID;", "Tom", "Thomas Berg"},
+    };
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.what);
+        const backup::SenderNames names =
+            read(QString("INSERT INTO ABPerson (First, Last, IsPreferredName)"
+                         " VALUES ('Tom', NULL, 0), ('Thomas', 'Berg', 1);"
+                         "INSERT INTO ABMultiValue (record_id, property, value)"
+                         " VALUES (1, 3, '5550101'), (2, 4, 'tom@example.org');")
+                 + row.rows);
+        EXPECT_EQ(names.nameOf("5550101"), QString(row.ofPhone));
+        EXPECT_EQ(names.nameOf("tom@example.org"), QString(row.ofEmail));
     }
 }
 
