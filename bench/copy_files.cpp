@@ -12,6 +12,7 @@
 #include <QImage>
 
 #include <cstdio>
+#include <filesystem>
 #include <random>
 #include <string_view>
 
@@ -35,8 +36,9 @@ bool makePhoto(const QString& path)
 PRBackup backupOf(const QDir& source, bool oneName)
 {
     RecordList records;
-    const QStringList names = source.entryList(QDir::Files, QDir::Name);
-    for (const QString& name : names) {
+    // Nothing is asked about each of them: a reader, too, has their names from elsewhere.
+    for (const auto& entry : std::filesystem::directory_iterator(source.path().toStdString())) {
+        const QString name = QString::fromStdString(entry.path().filename().string());
         Record record;
         record.values = QStringList(oneName ? QStringLiteral("photo") : name);
         records.push_back(std::make_unique<PRFileItem>(

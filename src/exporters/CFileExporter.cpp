@@ -12,6 +12,7 @@
 #include "platform/JpegMarkers.h"
 #include "platform/Log.h"
 #include "platform/OvCurlWrapper.h"
+#include "platform/RawFile.h"
 #include "platform/jpeg_verdict.h"
 #include "platform/literals.h"
 
@@ -19,6 +20,7 @@
 #include <QFileInfo>
 #include <QImage>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -62,25 +64,31 @@ QString namedByContent(const QString& name, const QByteArray& header)
     return named;
 }
 
-// An empty path is a missing file; Qt would warn of it.
-bool openToRead(QFile& file)
-{
-    return !file.fileName().isEmpty() && file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-}
-
 } // namespace
 
 CFileExporter::CFileExporter() : m_dir(QDir(QString()))
 {
 }
 
+/// What was read of a file last.
+struct CFileExporter::Chunk {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the bytes are read into
+    explicit Chunk(RawFile& source) { readFrom(source); }
+    void readFrom(RawFile& source) { size = source.read(bytes.data(), kChunkSize); }
+
+    std::array<char, kChunkSize> bytes;
+    qint64 size = 0; ///< 0 at the end of the file, below 0 where it cannot be read
+};
+
 bool CFileExporter::write(const QString& src, QString& name)
 {
-    QFile source(src);
-    if (!openToRead(source)) {
+    RawFile source;
+    if (!source.openToRead(src)) {
         return false;
     }
-    const QByteArray header = source.read(kHeaderSize).toUpper();
+    Chunk chunk(source);
+    const int headerSize = static_cast<int>(std::clamp<qint64>(chunk.size, 0, kHeaderSize));
+    const QByteArray header = QByteArray(chunk.bytes.data(), headerSize).toUpper();
     const bool toConvert = m_convertHeic && header.contains("HEIC");
     const bool converted = toConvert && convertHeic(src, name);
     bool written = converted;
@@ -88,13 +96,16 @@ bool CFileExporter::write(const QString& src, QString& name)
     const bool isJpeg = holds(header, kJpeg);
     JpegMarkers markers;
     Copy copy = Copy::Failed;
-    QFile target(uniquePath(namedByContent(name, header)));
-    source.seek(0);
-    // Not buffered, so that a full disk shows at the chunk that does not fit.
-    if (target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        copy = copyContents(source, target, isJpeg ? &markers : nullptr);
+    const QString path = uniquePath(namedByContent(name, header));
+    RawFile target;
+    if (target.openToWrite(path)) {
+        copy = copyContents(chunk, source, target, isJpeg ? &markers : nullptr);
+        target.close();
+        if (copy != Copy::Whole) {
+            QFile::remove(path);
+        }
         written = copy != Copy::Failed;
-        name = target.fileName();
+        name = path;
     }
     if (isJpeg) {
         // Of a copy that was taken away the markers say nothing.
@@ -113,37 +124,21 @@ bool CFileExporter::convertHeic(const QString& src, const QString& name) const
     return CCommonUtils::convertHEICFileToJPG(src, path, false);
 }
 
-// A copy that is not whole is taken away.
 CFileExporter::Copy CFileExporter::copyContents(
-    QFile& source, QFile& target, JpegMarkers* markers) const
+    Chunk& chunk, RawFile& source, RawFile& target, JpegMarkers* markers) const
 {
-    const Copy copy = copyChunks(source, target, markers);
-    target.close();
-    if (copy != Copy::Whole) {
-        target.remove();
-    }
-    return copy;
-}
-
-CFileExporter::Copy CFileExporter::copyChunks(
-    QFile& source, QFile& target, JpegMarkers* markers) const
-{
-    std::array<char, kChunkSize> chunk; // NOLINT(cppcoreguidelines-pro-type-member-init): read into
-    for (;;) {
-        const qint64 size = source.read(chunk.data(), kChunkSize);
-        if (size == 0) {
-            return Copy::Whole;
-        }
-        if (size < 0 || target.write(chunk.data(), size) != size) {
+    for (; chunk.size > 0; chunk.readFrom(source)) {
+        if (!target.write(chunk.bytes.data(), chunk.size)) {
             return Copy::Failed;
         }
         if (markers != nullptr) {
-            markers->add(chunk.data(), size);
+            markers->add(chunk.bytes.data(), chunk.size);
         }
-        if (m_progress != nullptr && !m_progress->step(static_cast<double>(size))) {
+        if (m_progress != nullptr && !m_progress->step(static_cast<double>(chunk.size))) {
             return Copy::Cancelled;
         }
     }
+    return chunk.size == 0 ? Copy::Whole : Copy::Failed;
 }
 
 bool CFileExporter::exportData(const QByteArray& data, const QString& name)

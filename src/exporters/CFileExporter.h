@@ -8,7 +8,7 @@
 
 class CIProgressCallback;
 class JpegMarkers;
-class QFile;
+class RawFile;
 
 /// Files as they are, one for each record, in the category's directory or in sub-directories of it.
 /// What kind of file a source is its first bytes tell, not its name; a name that lacks the suffix
@@ -54,10 +54,10 @@ public:
 
 private:
     enum class Copy { Whole, Cancelled, Failed };
+    struct Chunk;
 
     bool convertHeic(const QString& src, const QString& name) const;
-    Copy copyContents(QFile& source, QFile& target, JpegMarkers* markers) const;
-    Copy copyChunks(QFile& source, QFile& target, JpegMarkers* markers) const;
+    Copy copyContents(Chunk& chunk, RawFile& source, RawFile& target, JpegMarkers* markers) const;
 
     QDir m_dir;
     QMap<QString, QString> m_dirNames; // by the parent's name: that of its directory
