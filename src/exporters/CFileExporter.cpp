@@ -162,7 +162,18 @@ bool CFileExporter::exportThumbData(const QString& src, const QString& name)
 {
     QImage image;
     CCommonUtils::readThumbFileData(image, src); // the image tells
-    return !image.isNull() && image.save(uniquePath(name));
+    if (image.isNull()) {
+        return false;
+    }
+    // By its path alone a small picture would count as saved before the disk has taken it.
+    QFile target(uniquePath(name));
+    const bool saved = target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+                       && image.save(&target); // the suffix of its name tells the format
+    target.close();
+    if (!saved) {
+        target.remove();
+    }
+    return saved;
 }
 
 bool CFileExporter::exportHttpData(const QString& url, const QString& localPath)

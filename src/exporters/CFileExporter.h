@@ -30,7 +30,8 @@ public:
     /// that the progress ended is taken away and counts as done.
     bool write(const QString& src, QString& name) override;
     bool exportData(const QByteArray& data, const QString& name) override;
-    /// The picture that the file at `src` holds, in the format of the suffix of `name`.
+    /// The picture that the file at `src` holds, in the format of the suffix of `name`. False
+    /// leaves no file.
     bool exportThumbData(const QString& src, const QString& name) override;
     /// Fetches `url` and puts it in the place of the file at `localPath`, if there is one. True,
     /// whatever came of it.

@@ -196,6 +196,19 @@ TEST_F(FilesAgain, AreWrittenWhenDownloadsAreCancelledInTheLast)
     EXPECT_EQ(joined(tree()), joined(bothRounds));
 }
 
+// A null pointer asks for no further pass, in which the cancel would be seen.
+TEST_F(FilesAgain, AreWrittenWhenOnlyNullPointersAreLeftBehindACancel)
+{
+    CBackupExporter exporter;
+    server.beforeAnswers([&exporter](const std::string&) { exporter.cancelDownload(); });
+    auto* item = dynamic_cast<PRFileItem*>(backup.getPRData(15)->at(0, true));
+    QList<PRFileItem*> items{nullptr, item};
+    (exporter.*access_to::onDownloadFileAttach())(
+        items, 15, &backup, root(), "Anna", {15}, nullptr, false);
+    EXPECT_EQ(joined(tree()),
+        "WeChat Attachments/, WeChat Attachments/a.txt, WeChat Attachments/here.txt");
+}
+
 TEST_F(FilesAgain, AreNotWrittenForATypeThatIsNotWantedNotThereOrNotSelected)
 {
     PRBackup unselected;

@@ -45,7 +45,7 @@ inline QString withoutServer(QString text, const support::HttpServer& server)
 inline QString shown(const QString& path, const support::HttpServer& server)
 {
     const QFileInfo file(path);
-    return file.isFile() ? ("a fetched ." + file.suffix()) : withoutServer(path, server);
+    return file.isFile() ? ("a fetched ." + file.completeSuffix()) : withoutServer(path, server);
 }
 
 /// One call of either operation with records that no set holds, so that nothing is written again.

@@ -105,6 +105,24 @@ TEST_F(FileExporterFaults, ARealFullDiskKeepsNoPartAndHasItsRoomAgain)
     EXPECT_EQ(written(), QStringList("c"));
 }
 
+// A part of it would show as a picture that is grey below.
+TEST_F(FileExporterFaults, AFullDiskLeavesNoPartOfAThumbnail)
+{
+    const LogMessages silence; // some encoders speak
+    const QString small = tree.write("in/small", encoded("BMP"));
+    const QString large = tree.write("in/large", encoded("BMP", 500));
+    for (const char* name : {"a.png", "a.jpg", "a.bmp"}) {
+        SCOPED_TRACE(name);
+        {
+            const support::LargestFile limit(60);
+            EXPECT_FALSE(exporter.exportThumbData(small, name));
+            EXPECT_FALSE(exporter.exportThumbData(large, name));
+        }
+        EXPECT_EQ(written(), QStringList());
+    }
+    EXPECT_TRUE(exporter.exportThumbData(small, "a.png")) << "when there is room";
+}
+
 TEST_F(FileExporterFaults, AFullDiskFailsTheCheckOfAJpegToo)
 {
     const LogMessages silence;
@@ -241,6 +259,20 @@ TEST_F(FileExporterFaults, HeicThatCannotBeConvertedComesOutAsItIsAndIsNamed)
     EXPECT_EQ(contents("a.heic"), heic);
     EXPECT_EQ(exporter.unconverted(), QStringList(tree.path("out/Cat/a.heic")));
     EXPECT_EQ(messages.lines().size(), 1);
+}
+
+TEST_F(FileExporterFaults, HeicIsToldByItsNameAnywhereInTheFirst20Bytes)
+{
+    convert();
+    const LogMessages messages;
+    for (const char* bytes :
+        {"HEIC", "a heic by chance", "1234567890123456heic", "12345678901234567heic"}) {
+        nameOfCopy(bytes, "a");
+    }
+    const QString copies = tree.path("out/Cat/a");
+    EXPECT_EQ(exporter.unconverted(), QStringList({copies, copies + " (2)", copies + " (3)"}))
+        << "the last one ends behind them";
+    EXPECT_EQ(messages.lines().size(), 3);
 }
 
 TEST_F(FileExporterFaults, AFileThatIsNoHeicIsNotConverted)

@@ -5,6 +5,7 @@
 #include "support/http_server.h"
 #include "support/temp_tree.h"
 
+#include <QElapsedTimer>
 #include <QString>
 
 #include <gtest/gtest.h>
@@ -246,7 +247,10 @@ TEST(OvCurlWrapper, ReportsAConnectionThatIsNotMadeInTimeAsOneThatFailed)
     const FullPort port;
     const TempTree tree;
     OvCurlWrapper curl(DownloadLimits{.connectMs = 50});
+    QElapsedTimer clock;
+    clock.start();
     EXPECT_FALSE(curl.download(port.address(), tree.path("file"), true));
+    EXPECT_LT(clock.elapsed(), 10'000) << "not the limit of a patient user";
     EXPECT_EQ(curl.httpCode(), 7);
     EXPECT_TRUE(tree.list().isEmpty());
 }

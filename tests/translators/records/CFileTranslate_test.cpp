@@ -118,6 +118,14 @@ TEST_F(FileTranslate, ASourceThatIsGoneLeavesTheLastThumbnail)
     EXPECT_EQ(contents("a_ 1.mov"), "last");
 }
 
+TEST_F(FileTranslate, TheLastThumbnailHasAFreeNameThatIsSafe)
+{
+    add(file("a/b.mov", {.data = "1"}), file("a/b.mov", {.thumbnail = source("t", "last")}));
+    EXPECT_EQ(run(), QStringList("exportData failed \n src  \n des a/b.mov "));
+    EXPECT_EQ(written(), QStringList({"a_b (2).mov", "a_b.mov"}));
+    EXPECT_EQ(contents("a_b (2).mov"), "last");
+}
+
 TEST_F(FileTranslate, ARecordWithNothingAtAllLeavesLinesAlone)
 {
     add(file("ä.mov", {}), file("b.mov", {.data = "next"}));
