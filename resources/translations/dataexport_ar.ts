@@ -991,6 +991,231 @@
         <translation>الشهر الكبيس %1، اليوم %2</translation>
     </message>
     <message>
+        <source>%1 added %2 to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: إضافة عضو إلى المجتمع: %2</translation>
+    </message>
+    <message>
+        <source>%1 was added to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: الإضافة إلى المجتمع</translation>
+    </message>
+    <message>
+        <source>%1 was added to the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: الإضافة إلى المحادثة</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: الإزالة من المحادثة</translation>
+    </message>
+    <message>
+        <source>%1 created the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: إنشاء المجموعة</translation>
+    </message>
+    <message>
+        <source>%1 joined by a link</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: الانضمام عبر رابط</translation>
+    </message>
+    <message>
+        <source>%1 joined by an invitation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: الانضمام بدعوة</translation>
+    </message>
+    <message>
+        <source>%1 joined from the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: الانضمام من المجتمع</translation>
+    </message>
+    <message>
+        <source>%1 made %2 an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: تعيين مشرف: %2</translation>
+    </message>
+    <message>
+        <source>%1 is now an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: مشرف الآن</translation>
+    </message>
+    <message>
+        <source>You are now an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>أنت الآن مشرف</translation>
+    </message>
+    <message>
+        <source>You are no longer an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>لم تعد مشرفًا</translation>
+    </message>
+    <message>
+        <source>%1 changed the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: تغيير وصف المجموعة</translation>
+    </message>
+    <message>
+        <source>%1 deleted the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: حذف وصف المجموعة</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: السماح للمشرفين فقط بتعديل المجموعة</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: السماح لجميع الأعضاء بتعديل المجموعة</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: السماح للمشرفين فقط بإرسال الرسائل</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: السماح لجميع الأعضاء بإرسال الرسائل</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to add members</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: السماح للمشرفين فقط بإضافة الأعضاء</translation>
+    </message>
+    <message>
+        <source>%1 changed disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: تغيير إعداد الرسائل ذاتية الاختفاء</translation>
+    </message>
+    <message>
+        <source>%1 turned off disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: إيقاف الرسائل ذاتية الاختفاء</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 hours</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1: تختفي الرسائل بعد %2 من الساعات</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 days</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1: تختفي الرسائل بعد %2 من الأيام</translation>
+    </message>
+    <message>
+        <source>%1 deleted a message</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: حذف رسالة</translation>
+    </message>
+    <message>
+        <source>A message of %1 has not arrived yet</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: رسالة لم تصل بعد</translation>
+    </message>
+    <message>
+        <source>The security code of %1 changed</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: تغيّر رمز الأمان</translation>
+    </message>
+    <message>
+        <source>%1 was blocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: تم الحظر</translation>
+    </message>
+    <message>
+        <source>%1 was unblocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: تم إلغاء الحظر</translation>
+    </message>
+    <message>
+        <source>Messages and calls are encrypted from end to end</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>الرسائل والمكالمات مشفرة تمامًا بين الطرفين</translation>
+    </message>
+    <message>
+        <source>Notice about a business account</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>إشعار بشأن حساب تجاري</translation>
+    </message>
+    <message>
+        <source>Group call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>مكالمة جماعية</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>مكالمة</translation>
+    </message>
+    <message>
+        <source>The channel was created</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>تم إنشاء القناة</translation>
+    </message>
+    <message>
+        <source>The privacy of the channel changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>تغيّرت خصوصية القناة</translation>
+    </message>
+    <message>
+        <source>The channel was changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>تم تغيير القناة</translation>
+    </message>
+    <message>
+        <source>Message of a business</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>رسالة من نشاط تجاري</translation>
+    </message>
+    <message>
+        <source>Invitation to a group</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>دعوة إلى مجموعة</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>منتج</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>ألبوم</translation>
+    </message>
+    <message>
+        <source>Voice message</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>رسالة صوتية</translation>
+    </message>
+    <message>
+        <source>Contact card</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>بطاقة جهة اتصال</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>مستند</translation>
+    </message>
+    <message>
+        <source>Forwarded</source>
+        <extracomment>Stands above a message that was written by somebody else.</extracomment>
+        <translation>تمت إعادة التوجيه</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <extracomment>Title of the chat with the short-lived posts of all people.</extracomment>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>%1: files of messages that are not in the backup: %2</source>
+        <extracomment>A remark on a backup: %1 is the name of a database. %2 is a number.</extracomment>
+        <translation>%1: ملفات رسائل غير موجودة في النسخة الاحتياطية: %2</translation>
+    </message>
+    <message>
         <source>Albums</source>
         <extracomment>Column: the albums that a photo is in.</extracomment>
         <translation>الألبومات</translation>

@@ -991,6 +991,231 @@
         <translation>Schaltmonat %1, Tag %2</translation>
     </message>
     <message>
+        <source>%1 added %2 to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: %2 zur Community hinzugefügt</translation>
+    </message>
+    <message>
+        <source>%1 was added to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: zur Community hinzugefügt</translation>
+    </message>
+    <message>
+        <source>%1 was added to the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: zur Unterhaltung hinzugefügt</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: aus der Unterhaltung entfernt</translation>
+    </message>
+    <message>
+        <source>%1 created the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Gruppe erstellt</translation>
+    </message>
+    <message>
+        <source>%1 joined by a link</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: über einen Link beigetreten</translation>
+    </message>
+    <message>
+        <source>%1 joined by an invitation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: auf Einladung beigetreten</translation>
+    </message>
+    <message>
+        <source>%1 joined from the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: aus der Community beigetreten</translation>
+    </message>
+    <message>
+        <source>%1 made %2 an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: %2 zum Admin gemacht</translation>
+    </message>
+    <message>
+        <source>%1 is now an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: jetzt Admin</translation>
+    </message>
+    <message>
+        <source>You are now an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Du bist jetzt Admin</translation>
+    </message>
+    <message>
+        <source>You are no longer an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Du bist kein Admin mehr</translation>
+    </message>
+    <message>
+        <source>%1 changed the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Gruppenbeschreibung geändert</translation>
+    </message>
+    <message>
+        <source>%1 deleted the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Gruppenbeschreibung gelöscht</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Nur Admins dürfen die Gruppe bearbeiten</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Alle Mitglieder dürfen die Gruppe bearbeiten</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Nur Admins dürfen Nachrichten senden</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Alle Mitglieder dürfen Nachrichten senden</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to add members</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Nur Admins dürfen Mitglieder hinzufügen</translation>
+    </message>
+    <message>
+        <source>%1 changed disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: selbstlöschende Nachrichten geändert</translation>
+    </message>
+    <message>
+        <source>%1 turned off disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: selbstlöschende Nachrichten ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 hours</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1: Nachrichten verschwinden nach %2 Stunden</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 days</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1: Nachrichten verschwinden nach %2 Tagen</translation>
+    </message>
+    <message>
+        <source>%1 deleted a message</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Nachricht gelöscht</translation>
+    </message>
+    <message>
+        <source>A message of %1 has not arrived yet</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Eine Nachricht ist noch nicht angekommen</translation>
+    </message>
+    <message>
+        <source>The security code of %1 changed</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: Sicherheitsnummer geändert</translation>
+    </message>
+    <message>
+        <source>%1 was blocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: blockiert</translation>
+    </message>
+    <message>
+        <source>%1 was unblocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: nicht mehr blockiert</translation>
+    </message>
+    <message>
+        <source>Messages and calls are encrypted from end to end</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Nachrichten und Anrufe sind Ende-zu-Ende-verschlüsselt</translation>
+    </message>
+    <message>
+        <source>Notice about a business account</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Hinweis zu einem Unternehmenskonto</translation>
+    </message>
+    <message>
+        <source>Group call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Gruppenanruf</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Anruf</translation>
+    </message>
+    <message>
+        <source>The channel was created</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Der Kanal wurde erstellt</translation>
+    </message>
+    <message>
+        <source>The privacy of the channel changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Der Datenschutz des Kanals wurde geändert</translation>
+    </message>
+    <message>
+        <source>The channel was changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Der Kanal wurde geändert</translation>
+    </message>
+    <message>
+        <source>Message of a business</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Nachricht eines Unternehmens</translation>
+    </message>
+    <message>
+        <source>Invitation to a group</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Einladung zu einer Gruppe</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Produkt</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Voice message</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Sprachnachricht</translation>
+    </message>
+    <message>
+        <source>Contact card</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Kontakt</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Forwarded</source>
+        <extracomment>Stands above a message that was written by somebody else.</extracomment>
+        <translation>Weitergeleitet</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <extracomment>Title of the chat with the short-lived posts of all people.</extracomment>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>%1: files of messages that are not in the backup: %2</source>
+        <extracomment>A remark on a backup: %1 is the name of a database. %2 is a number.</extracomment>
+        <translation>%1: im Backup fehlende Dateien von Nachrichten: %2</translation>
+    </message>
+    <message>
         <source>Albums</source>
         <extracomment>Column: the albums that a photo is in.</extracomment>
         <translation>Alben</translation>

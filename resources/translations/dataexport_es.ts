@@ -991,6 +991,231 @@
         <translation>mes intercalar %1, día %2</translation>
     </message>
     <message>
+        <source>%1 added %2 to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: se añadió a %2 a la comunidad</translation>
+    </message>
+    <message>
+        <source>%1 was added to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: incorporación a la comunidad</translation>
+    </message>
+    <message>
+        <source>%1 was added to the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: incorporación a la conversación</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: eliminación de la conversación</translation>
+    </message>
+    <message>
+        <source>%1 created the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: creación del grupo</translation>
+    </message>
+    <message>
+        <source>%1 joined by a link</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: entrada mediante un enlace</translation>
+    </message>
+    <message>
+        <source>%1 joined by an invitation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: entrada por invitación</translation>
+    </message>
+    <message>
+        <source>%1 joined from the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: entrada desde la comunidad</translation>
+    </message>
+    <message>
+        <source>%1 made %2 an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: %2 pasa a ser administrador</translation>
+    </message>
+    <message>
+        <source>%1 is now an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: ahora es administrador</translation>
+    </message>
+    <message>
+        <source>You are now an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Ahora eres administrador</translation>
+    </message>
+    <message>
+        <source>You are no longer an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Ya no eres administrador</translation>
+    </message>
+    <message>
+        <source>%1 changed the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: descripción del grupo cambiada</translation>
+    </message>
+    <message>
+        <source>%1 deleted the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: descripción del grupo eliminada</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: solo los administradores pueden editar el grupo</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: todos los miembros pueden editar el grupo</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: solo los administradores pueden enviar mensajes</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: todos los miembros pueden enviar mensajes</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to add members</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: solo los administradores pueden añadir miembros</translation>
+    </message>
+    <message>
+        <source>%1 changed disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: mensajes temporales cambiados</translation>
+    </message>
+    <message>
+        <source>%1 turned off disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: mensajes temporales desactivados</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 hours</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1: los mensajes desaparecen tras %2 horas</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 days</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1: los mensajes desaparecen tras %2 días</translation>
+    </message>
+    <message>
+        <source>%1 deleted a message</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: mensaje eliminado</translation>
+    </message>
+    <message>
+        <source>A message of %1 has not arrived yet</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: un mensaje aún no ha llegado</translation>
+    </message>
+    <message>
+        <source>The security code of %1 changed</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: código de seguridad cambiado</translation>
+    </message>
+    <message>
+        <source>%1 was blocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: contacto bloqueado</translation>
+    </message>
+    <message>
+        <source>%1 was unblocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: contacto desbloqueado</translation>
+    </message>
+    <message>
+        <source>Messages and calls are encrypted from end to end</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Los mensajes y las llamadas están cifrados de extremo a extremo</translation>
+    </message>
+    <message>
+        <source>Notice about a business account</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Aviso sobre una cuenta de empresa</translation>
+    </message>
+    <message>
+        <source>Group call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Llamada grupal</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Llamada</translation>
+    </message>
+    <message>
+        <source>The channel was created</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Se creó el canal</translation>
+    </message>
+    <message>
+        <source>The privacy of the channel changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Cambió la privacidad del canal</translation>
+    </message>
+    <message>
+        <source>The channel was changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Se modificó el canal</translation>
+    </message>
+    <message>
+        <source>Message of a business</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Mensaje de una empresa</translation>
+    </message>
+    <message>
+        <source>Invitation to a group</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Invitación a un grupo</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Producto</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>Voice message</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Mensaje de voz</translation>
+    </message>
+    <message>
+        <source>Contact card</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Contacto</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Forwarded</source>
+        <extracomment>Stands above a message that was written by somebody else.</extracomment>
+        <translation>Reenviado</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <extracomment>Title of the chat with the short-lived posts of all people.</extracomment>
+        <translation>Estados</translation>
+    </message>
+    <message>
+        <source>%1: files of messages that are not in the backup: %2</source>
+        <extracomment>A remark on a backup: %1 is the name of a database. %2 is a number.</extracomment>
+        <translation>%1: archivos de mensajes que no están en la copia de seguridad: %2</translation>
+    </message>
+    <message>
         <source>Albums</source>
         <extracomment>Column: the albums that a photo is in.</extracomment>
         <translation>Álbumes</translation>

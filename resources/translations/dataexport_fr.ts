@@ -991,6 +991,231 @@
         <translation>mois intercalaire %1, jour %2</translation>
     </message>
     <message>
+        <source>%1 added %2 to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : %2 ajouté à la communauté</translation>
+    </message>
+    <message>
+        <source>%1 was added to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : ajout à la communauté</translation>
+    </message>
+    <message>
+        <source>%1 was added to the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : ajout à la conversation</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : retrait de la conversation</translation>
+    </message>
+    <message>
+        <source>%1 created the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : création du groupe</translation>
+    </message>
+    <message>
+        <source>%1 joined by a link</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : arrivée par un lien</translation>
+    </message>
+    <message>
+        <source>%1 joined by an invitation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : arrivée sur invitation</translation>
+    </message>
+    <message>
+        <source>%1 joined from the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : arrivée depuis la communauté</translation>
+    </message>
+    <message>
+        <source>%1 made %2 an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : %2 nommé administrateur</translation>
+    </message>
+    <message>
+        <source>%1 is now an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : désormais administrateur</translation>
+    </message>
+    <message>
+        <source>You are now an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Vous êtes désormais administrateur</translation>
+    </message>
+    <message>
+        <source>You are no longer an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Vous n’êtes plus administrateur</translation>
+    </message>
+    <message>
+        <source>%1 changed the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : description du groupe modifiée</translation>
+    </message>
+    <message>
+        <source>%1 deleted the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : description du groupe supprimée</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : seuls les administrateurs peuvent modifier le groupe</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : tous les membres peuvent modifier le groupe</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : seuls les administrateurs peuvent envoyer des messages</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : tous les membres peuvent envoyer des messages</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to add members</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : seuls les administrateurs peuvent ajouter des membres</translation>
+    </message>
+    <message>
+        <source>%1 changed disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : messages éphémères modifiés</translation>
+    </message>
+    <message>
+        <source>%1 turned off disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : messages éphémères désactivés</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 hours</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1 : les messages disparaissent après %2 heures</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 days</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1 : les messages disparaissent après %2 jours</translation>
+    </message>
+    <message>
+        <source>%1 deleted a message</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : message supprimé</translation>
+    </message>
+    <message>
+        <source>A message of %1 has not arrived yet</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : un message n’est pas encore arrivé</translation>
+    </message>
+    <message>
+        <source>The security code of %1 changed</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : code de sécurité modifié</translation>
+    </message>
+    <message>
+        <source>%1 was blocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : contact bloqué</translation>
+    </message>
+    <message>
+        <source>%1 was unblocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1 : contact débloqué</translation>
+    </message>
+    <message>
+        <source>Messages and calls are encrypted from end to end</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Les messages et les appels sont chiffrés de bout en bout</translation>
+    </message>
+    <message>
+        <source>Notice about a business account</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Avis concernant un compte professionnel</translation>
+    </message>
+    <message>
+        <source>Group call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Appel de groupe</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Appel</translation>
+    </message>
+    <message>
+        <source>The channel was created</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>La chaîne a été créée</translation>
+    </message>
+    <message>
+        <source>The privacy of the channel changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>La confidentialité de la chaîne a changé</translation>
+    </message>
+    <message>
+        <source>The channel was changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>La chaîne a été modifiée</translation>
+    </message>
+    <message>
+        <source>Message of a business</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Message d’une entreprise</translation>
+    </message>
+    <message>
+        <source>Invitation to a group</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Invitation à un groupe</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Produit</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Voice message</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Message vocal</translation>
+    </message>
+    <message>
+        <source>Contact card</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Fiche de contact</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Document</translation>
+    </message>
+    <message>
+        <source>Forwarded</source>
+        <extracomment>Stands above a message that was written by somebody else.</extracomment>
+        <translation>Transféré</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <extracomment>Title of the chat with the short-lived posts of all people.</extracomment>
+        <translation>Statut</translation>
+    </message>
+    <message>
+        <source>%1: files of messages that are not in the backup: %2</source>
+        <extracomment>A remark on a backup: %1 is the name of a database. %2 is a number.</extracomment>
+        <translation>%1 : fichiers de messages absents de la sauvegarde : %2</translation>
+    </message>
+    <message>
         <source>Albums</source>
         <extracomment>Column: the albums that a photo is in.</extracomment>
         <translation>Albums</translation>

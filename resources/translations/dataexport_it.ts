@@ -991,6 +991,231 @@
         <translation>mese intercalare %1, giorno %2</translation>
     </message>
     <message>
+        <source>%1 added %2 to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: aggiunta di %2 alla community</translation>
+    </message>
+    <message>
+        <source>%1 was added to the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: aggiunta alla community</translation>
+    </message>
+    <message>
+        <source>%1 was added to the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: aggiunta alla conversazione</translation>
+    </message>
+    <message>
+        <source>%1 was removed from the conversation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: rimozione dalla conversazione</translation>
+    </message>
+    <message>
+        <source>%1 created the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: creazione del gruppo</translation>
+    </message>
+    <message>
+        <source>%1 joined by a link</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: ingresso tramite un link</translation>
+    </message>
+    <message>
+        <source>%1 joined by an invitation</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: ingresso su invito</translation>
+    </message>
+    <message>
+        <source>%1 joined from the community</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: ingresso dalla community</translation>
+    </message>
+    <message>
+        <source>%1 made %2 an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: %2 nominato amministratore</translation>
+    </message>
+    <message>
+        <source>%1 is now an admin</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: ora amministratore</translation>
+    </message>
+    <message>
+        <source>You are now an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Ora sei amministratore</translation>
+    </message>
+    <message>
+        <source>You are no longer an admin</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Non sei più amministratore</translation>
+    </message>
+    <message>
+        <source>%1 changed the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: descrizione del gruppo modificata</translation>
+    </message>
+    <message>
+        <source>%1 deleted the group description</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: descrizione del gruppo eliminata</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: solo gli amministratori possono modificare il gruppo</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to edit the group</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: tutti i membri possono modificare il gruppo</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: solo gli amministratori possono inviare messaggi</translation>
+    </message>
+    <message>
+        <source>%1 allowed all members to send messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: tutti i membri possono inviare messaggi</translation>
+    </message>
+    <message>
+        <source>%1 allowed only admins to add members</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: solo gli amministratori possono aggiungere membri</translation>
+    </message>
+    <message>
+        <source>%1 changed disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: messaggi effimeri modificati</translation>
+    </message>
+    <message>
+        <source>%1 turned off disappearing messages</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: messaggi effimeri disattivati</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 hours</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1: i messaggi scompaiono dopo %2 ore</translation>
+    </message>
+    <message>
+        <source>%1 made messages disappear after %2 days</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a number, 2 or more.</extracomment>
+        <translation>%1: i messaggi scompaiono dopo %2 giorni</translation>
+    </message>
+    <message>
+        <source>%1 deleted a message</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: messaggio eliminato</translation>
+    </message>
+    <message>
+        <source>A message of %1 has not arrived yet</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: un messaggio non è ancora arrivato</translation>
+    </message>
+    <message>
+        <source>The security code of %1 changed</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: codice di sicurezza cambiato</translation>
+    </message>
+    <message>
+        <source>%1 was blocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: contatto bloccato</translation>
+    </message>
+    <message>
+        <source>%1 was unblocked</source>
+        <extracomment>A line in a chat: %1 is a name, or &quot;You&quot;. %2 is a name, or several.</extracomment>
+        <translation>%1: contatto sbloccato</translation>
+    </message>
+    <message>
+        <source>Messages and calls are encrypted from end to end</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>I messaggi e le chiamate sono cifrati end-to-end</translation>
+    </message>
+    <message>
+        <source>Notice about a business account</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Avviso su un account business</translation>
+    </message>
+    <message>
+        <source>Group call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Chiamata di gruppo</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Chiamata</translation>
+    </message>
+    <message>
+        <source>The channel was created</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Il canale è stato creato</translation>
+    </message>
+    <message>
+        <source>The privacy of the channel changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>La privacy del canale è cambiata</translation>
+    </message>
+    <message>
+        <source>The channel was changed</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Il canale è stato modificato</translation>
+    </message>
+    <message>
+        <source>Message of a business</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Messaggio di un’azienda</translation>
+    </message>
+    <message>
+        <source>Invitation to a group</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Invito a un gruppo</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Prodotto</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Voice message</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Messaggio vocale</translation>
+    </message>
+    <message>
+        <source>Contact card</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Contatto</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Forwarded</source>
+        <extracomment>Stands above a message that was written by somebody else.</extracomment>
+        <translation>Inoltrato</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <extracomment>Title of the chat with the short-lived posts of all people.</extracomment>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>%1: files of messages that are not in the backup: %2</source>
+        <extracomment>A remark on a backup: %1 is the name of a database. %2 is a number.</extracomment>
+        <translation>%1: file di messaggi non presenti nel backup: %2</translation>
+    </message>
+    <message>
         <source>Albums</source>
         <extracomment>Column: the albums that a photo is in.</extracomment>
         <translation>Album</translation>

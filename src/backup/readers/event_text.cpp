@@ -126,7 +126,7 @@ QString reactionSentence(
         .arg(actor, target);
 }
 
-QString quotedSnippet(const QString& text)
+QString snippetOf(const QString& text)
 {
     QString snippet = text.simplified();
     if (snippet.size() > kSnippetCharacters) {
@@ -138,7 +138,12 @@ QString quotedSnippet(const QString& text)
         snippet.truncate(std::max(end, 0));
         snippet += QChar(0x2026);
     }
-    return QChar(0x201C) + snippet + QChar(0x201D);
+    return snippet;
+}
+
+QString quotedSnippet(const QString& text)
+{
+    return QChar(0x201C) + snippetOf(text) + QChar(0x201D);
 }
 
 } // namespace backup

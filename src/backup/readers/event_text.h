@@ -42,7 +42,10 @@ QString eventSentence(const EventFacts& facts);
 QString reactionSentence(
     int type, const QString& actor, const QString& emoji, const QString& target);
 
-/// `text` as a part of a sentence: on one line, of moderate length, between quotes.
+/// `text` on one line, of moderate length.
+QString snippetOf(const QString& text);
+
+/// `text` as a part of a sentence: the same between quotes.
 QString quotedSnippet(const QString& text);
 
 } // namespace backup

@@ -5,6 +5,7 @@
 #include "backup/readers/BookmarkData.h"
 #include "backup/readers/CalendarData.h"
 #include "backup/readers/CallData.h"
+#include "backup/readers/FoundDatabase.h"
 #include "backup/readers/HistoryData.h"
 #include "backup/readers/MessageStore.h"
 #include "backup/readers/NoteStore.h"
@@ -21,6 +22,7 @@
 #include "backup/readers/photo_rows.h"
 #include "backup/readers/reminder_rows.h"
 #include "backup/readers/safari_lists.h"
+#include "backup/readers/whatsapp_source.h"
 #include "formats/plist.h"
 #include "platform/literals.h"
 
@@ -45,14 +47,6 @@ QString tr(const char* text)
 {
     return QCoreApplication::translate("DataExport", text);
 }
-
-/// A database that was found, with what its reader may need besides.
-struct FoundDatabase {
-    OpenedDatabase database;
-    QString domain; ///< where it was looked for
-    QString name;   ///< how notices call it: its path in that domain
-    const SenderNames& names;
-};
 
 void addMessages(FoundDatabase found, OpenedBackup& opened)
 {
@@ -220,6 +214,9 @@ constexpr std::array kSources{
     SourceRow{"MediaDomain"_L1, "Media/Recordings/CloudRecordings.db"_L1, Lies::Somewhere, VoiceMemos::isRecordings, addVoiceMemos},
     SourceRow{"MediaDomain"_L1, "Media/Recordings/Recordings.db"_L1, Lies::Somewhere, VoiceMemos::isRecordings, addVoiceMemos},
     SourceRow{"HomeDomain"_L1, "Library/Voicemail/voicemail.db"_L1, Lies::Somewhere, Voicemail::isVoicemail, addVoicemail},
+    SourceRow{kWhatsAppDomain, kWhatsAppChats, Lies::Here, isWhatsApp, addWhatsApp},
+    SourceRow{kOldWhatsAppDomain, kOldWhatsAppChats, Lies::Here, isWhatsApp, addWhatsApp},
+    SourceRow{kWhatsAppBusinessDomain, kWhatsAppChats, Lies::Here, isWhatsApp, addWhatsAppBusiness},
 };
 
 /// A property list of an old release that fills a set which no database has filled.
