@@ -55,10 +55,14 @@ enum Column : int {
     Alarm = 9,
 };
 
-// An event of whole days stands as it is stored, and has its time of day too.
+// An event of whole days stands as it is stored, and has its time of day too. A day and a time
+// without a valid zone would be given as text all the same.
 QString dateText(PRCalendarItem* item, int column)
 {
     const QDateTime stored = item->sortValue(column).toDateTime();
+    if (!stored.isValid()) {
+        return {};
+    }
     const QDateTime shown = item->getAllDay() == 0 ? stored.toLocalTime() : stored;
     return QLocale::c()
         .toString(shown, QStringLiteral("yyyyMMdd hhmmss"))

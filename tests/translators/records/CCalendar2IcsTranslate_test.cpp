@@ -156,6 +156,21 @@ TEST(CCalendar2IcsTranslate, TimesAreLocalAndThoseOfWholeDaysAsStored)
     }
 }
 
+// A day and a time of no zone are no moment.
+TEST(CCalendar2IcsTranslate, DateThatIsNotValidHasNoLineAndEndsNoRecurrence)
+{
+    const QDateTime ofNoZone({2024, 6, 4}, {17, 30}, QTimeZone());
+    ASSERT_TRUE(ofNoZone.date().isValid() && !ofNoZone.isValid());
+    for (const int allDay : {0, 1}) {
+        EXPECT_EQ(linesOf({}, {.allDay = allDay, .start = ofNoZone, .end = ofNoZone}),
+            QStringList(kNoAlarm));
+    }
+    EXPECT_EQ(
+        linesOf({}, {.start = utc({2024, 6, 1}), .recurrence = "1*1*", .recurrenceEnd = ofNoZone})
+            .last(),
+        "RRULE:FREQ=DAILY\r\n");
+}
+
 TEST(CCalendar2IcsTranslate, OnlyTheLineFeedsOfNotesAreWrittenAsTwoCharacters)
 {
     EXPECT_EQ(linesOf({"a\nb, c; d\\e", "f\ng", "", "", "h\ni\r\nj, k; l\\m\n"}, {}),
