@@ -112,6 +112,20 @@ TEST_F(CalendarEntry, WithoutAPageThereIsNoCalendarAndNoCategory)
     EXPECT_EQ(tree(), QStringList());
 }
 
+TEST_F(CalendarEntry, ACalendarThatCannotBeOpenedTakesTheFinishedPage)
+{
+    // With ".html" the name is as long as file systems take one; the calendar needs a number in it.
+    const QString owner(244, 'x');
+    ASSERT_TRUE(root().mkpath("Cat/" + owner + "'s Cat.ics"));
+    ASSERT_TRUE(root().mkpath("Other"));
+    RecordingProgress progress;
+    progress.initRange(400);
+    progress.clearCalls();
+    EXPECT_FALSE(run(2, &progress, owner));
+    EXPECT_EQ(progress.calls(), QStringList({"range", "step 100", "step 100", "step 0"}));
+    EXPECT_EQ(tree(), QStringList("Other/"));
+}
+
 TEST_F(CalendarEntry, ServesTheTypeOfTheCalendar)
 {
     PRBackup backup;

@@ -309,6 +309,27 @@ TEST_F(ChatContactPictures, AtAddressesAreFetched)
     EXPECT_EQ(QImage::fromData(page.exported.first()).size(), QSize(136, 68));
 }
 
+// What is fetched by default needs no colon behind its first letters.
+TEST_F(ChatContactPictures, AtAnythingThatBeginsLikeAnAddressAreFetched)
+{
+    HttpServer server;
+    server.answer("/mia", HttpServer::reply(200, photoBytes(9, 9).toStdString()));
+    draw({"httpmia@127.0.0.1:" + QString::number(server.port()) + "/mia"});
+    EXPECT_EQ(server.asked(), std::vector<std::string>{"/mia"});
+    EXPECT_EQ(shown(), QStringList("image/0.png"));
+}
+
+TEST_F(ChatContactPictures, AreFetchedIntoFilesOfPhotos)
+{
+    HttpServer server;
+    server.answer("/mia", HttpServer::reply(200, photoBytes(9, 9).toStdString()));
+    OvCurlWrapper curl;
+    const QDir fetched = QFileInfo(PRData::onDowmloadThumbnail(curl, "http:", "jpg")).dir();
+    const int before = fetched.entryList({"*.jpg"}).size();
+    draw({server.address("/mia")});
+    EXPECT_EQ(fetched.entryList({"*.jpg"}).size(), before + 1);
+}
+
 TEST_F(ChatContactPictures, ThatCannotBeFetchedLeaveTheDefault)
 {
     HttpServer server;
