@@ -132,6 +132,10 @@ KINDS = {  # name -> unit, what tells the day of a start, whether a day is like 
 }
 
 
+# Where the count is right whichever day the recurrence ends on, not only where it is one of its own.
+ENDING_ANY_DAY = {"daily", "weekly", "weekly, weekday named", "monthly by day", "yearly by day"}
+
+
 def start_for(kind, chance):
     """A day on which the kind can begin, and that each month or year of it has."""
     while True:
@@ -142,7 +146,8 @@ def start_for(kind, chance):
 
 
 def recurrences(count):
-    """Recurrences that start on a day of theirs and end on another: (what, event, days)"""
+    """Recurrences that start on a day of theirs and end on another, or before the next one:
+    (what, event, days)"""
     chance = random.Random(29)
     for number in range(count):
         kind = list(KINDS)[number % len(KINDS)]
@@ -152,13 +157,16 @@ def recurrences(count):
         for day in days_from(start):
             if is_in_turn(unit, interval, start, day) and is_like(start, day):
                 days.append(day)
-            if len(days) == wanted:
+            if len(days) > wanted:
                 break
+        following, end = days.pop(), days[wanted - 1]
+        if kind in ENDING_ANY_DAY:
+            end += timedelta(days=chance.randrange((following - end).days))
         source = f"{interval}*{unit}*{specifier(start)}"
-        yield f"{kind}: {source} from {start}", {
+        yield f"{kind}: {source} from {start} to {end}", {
             "values": [kind], "start": f"{start}T12:00:00Z", "end": f"{start}T13:00:00Z",
             "recurrence": source,
-            "recurrenceEnd": f"{days[-1]}T{chance.choice(('00:00:00', '12:00:00', '23:59:59'))}Z",
+            "recurrenceEnd": f"{end}T{chance.choice(('00:00:00', '12:00:00', '23:59:59'))}Z",
         }, days
 
 
@@ -204,6 +212,12 @@ class SampleBackup(unittest.TestCase):
             (alarm,) = event.walk("VALARM")
             seconds = record.get("alarm", 0)
             self.assertEqual(alarm["TRIGGER"].dt, -timedelta(seconds=seconds))
+            self.assertEqual((alarm["ACTION"], alarm["DESCRIPTION"]), ("DISPLAY", "Reminder"))
+
+    def test_calendar_tells_its_maker_and_its_version(self):
+        calendar = icalendar.Calendar.from_ical(self.readable())
+        self.assertEqual((calendar["PRODID"], calendar["VERSION"]),
+                         ("-//orvendale//Tessavon//EN", "2.0"))
 
     def test_rules_stop_with_their_recurrence(self):
         counted = 0

@@ -6,8 +6,8 @@
 //   1*4*D=0FR;O=3;S=-1 FREQ=YEARLY;COUNT=3;BYDAY=FR;BYMONTH=3;BYSETPOS=-1
 // The source is of the form interval*frequency*specifier. COUNT stands only where the recurrence
 // ends on a later day than it starts on. It is right where the event itself is one of its rule's
-// occurrences and the last day another one, with a single weekday or day of the month; elsewhere
-// the numbers below are off, and are what has been agreed on.
+// occurrences, with a single weekday or day of the month; a rule by a weekday of the month must end
+// on another one too. Elsewhere the numbers below are off, and are what has been agreed on.
 #include "translators/records/recurrence_rule.h"
 
 #include "platform/literals.h"
