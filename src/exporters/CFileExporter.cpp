@@ -16,6 +16,7 @@
 #include "platform/jpeg_verdict.h"
 #include "platform/literals.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
@@ -62,6 +63,21 @@ QString namedByContent(const QString& name, const QByteArray& header)
         }
     }
     return named;
+}
+
+// False leaves no file.
+bool writeWhole(const QByteArray& bytes, const QString& path)
+{
+    QFile target(path);
+    if (!target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        return false;
+    }
+    const bool written = target.write(bytes) == bytes.size();
+    target.close();
+    if (!written) {
+        target.remove();
+    }
+    return written;
 }
 
 } // namespace
@@ -143,15 +159,7 @@ CFileExporter::Copy CFileExporter::copyContents(
 
 bool CFileExporter::exportData(const QByteArray& data, const QString& name)
 {
-    QFile target(uniquePath(name));
-    bool written = false;
-    if (target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        written = target.write(data) == data.size();
-        target.close();
-        if (!written) {
-            target.remove();
-        }
-    }
+    const bool written = writeWhole(data, uniquePath(name));
     if (m_progress != nullptr) {
         m_progress->step(data.size()); // a cancel is seen before the next record
     }
@@ -165,15 +173,12 @@ bool CFileExporter::exportThumbData(const QString& src, const QString& name)
     if (image.isNull()) {
         return false;
     }
-    // By its path alone a small picture would count as saved before the disk has taken it.
-    QFile target(uniquePath(name));
-    const bool saved = target.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-                       && image.save(&target); // the suffix of its name tells the format
-    target.close();
-    if (!saved) {
-        target.remove();
-    }
-    return saved;
+    // Not straight to the disk: an encoder may take what had no room there for written.
+    const QString path = uniquePath(name);
+    QBuffer encoded;
+    encoded.open(QIODevice::WriteOnly);
+    return image.save(&encoded, QFileInfo(path).suffix().toLatin1().constData())
+           && writeWhole(encoded.data(), path);
 }
 
 bool CFileExporter::exportHttpData(const QString& url, const QString& localPath)
