@@ -651,6 +651,31 @@
         <translation>[Sticker]</translation>
     </message>
     <message>
+        <source>A message was recalled</source>
+        <extracomment>A line in a chat: its sender took a message back.</extracomment>
+        <translation>Se retiró un mensaje</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Llamada</translation>
+    </message>
+    <message>
+        <source>Friend request from %1</source>
+        <extracomment>A line in a chat. %1: a name.</extracomment>
+        <translation>Solicitud de amistad de %1</translation>
+    </message>
+    <message>
+        <source>Live location</source>
+        <extracomment>In a chat, for a place that was shared for a while.</extracomment>
+        <translation>Ubicación en tiempo real</translation>
+    </message>
+    <message>
+        <source>Voice message</source>
+        <extracomment>In a chat, for what a message quotes.</extracomment>
+        <translation>Mensaje de voz</translation>
+    </message>
+    <message>
         <source>Other app</source>
         <extracomment>Service of a call: an app that is not known by name.</extracomment>
         <translation>Otra app</translation>

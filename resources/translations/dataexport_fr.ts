@@ -651,6 +651,31 @@
         <translation>[Sticker]</translation>
     </message>
     <message>
+        <source>A message was recalled</source>
+        <extracomment>A line in a chat: its sender took a message back.</extracomment>
+        <translation>Un message a été retiré</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <extracomment>A line in a chat.</extracomment>
+        <translation>Appel</translation>
+    </message>
+    <message>
+        <source>Friend request from %1</source>
+        <extracomment>A line in a chat. %1: a name.</extracomment>
+        <translation>Demande d’ami de %1</translation>
+    </message>
+    <message>
+        <source>Live location</source>
+        <extracomment>In a chat, for a place that was shared for a while.</extracomment>
+        <translation>Position en direct</translation>
+    </message>
+    <message>
+        <source>Voice message</source>
+        <extracomment>In a chat, for what a message quotes.</extracomment>
+        <translation>Message vocal</translation>
+    </message>
+    <message>
         <source>Other app</source>
         <extracomment>Service of a call: an app that is not known by name.</extracomment>
         <translation>Autre app</translation>

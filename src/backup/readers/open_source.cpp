@@ -16,6 +16,8 @@
 #include "backup/readers/Ringtones.h"
 #include "backup/readers/VoiceMemos.h"
 #include "backup/readers/Voicemail.h"
+#include "backup/readers/WeChatAccount.h"
+#include "backup/readers/WeChatAccounts.h"
 #include "backup/readers/calendar_rows.h"
 #include "backup/readers/call_rows.h"
 #include "backup/readers/note_data.h"
@@ -186,6 +188,7 @@ struct SourceRow {
         Everywhere, ///< each device has it: that it is missing is told
         Somewhere,  ///< if not here, then in another domain
         Here,       ///< other applications have files of the same path
+        Perhaps,    ///< as Here, and may hold nothing that is read
     } lies = Lies::Somewhere;
     bool (*isOfKind)(const formats::Database&) = nullptr; ///< by its tables
     void (*add)(FoundDatabase, OpenedBackup&) = nullptr;  ///< fills in what it holds
@@ -217,6 +220,9 @@ constexpr std::array kSources{
     SourceRow{kWhatsAppDomain, kWhatsAppChats, Lies::Here, isWhatsApp, addWhatsApp},
     SourceRow{kOldWhatsAppDomain, kOldWhatsAppChats, Lies::Here, isWhatsApp, addWhatsApp},
     SourceRow{kWhatsAppBusinessDomain, kWhatsAppChats, Lies::Here, isWhatsApp, addWhatsAppBusiness},
+    SourceRow{kWeChatDomain, "Documents/*/DB/WCDB_Contact.sqlite"_L1, Lies::Here, WeChatContacts::isContacts, addWeChat},
+    SourceRow{kWeChatDomain, "Documents/*/DB/MM.sqlite"_L1, Lies::Perhaps, WeChatAccount::isMessages, addWeChat},
+    SourceRow{kWeChatDomain, "Documents/*/DB/message_*.sqlite"_L1, Lies::Perhaps, WeChatAccount::isMessages, addWeChat},
 };
 
 /// A property list of an old release that fills a set which no database has filled.
@@ -232,17 +238,46 @@ constexpr std::array kLists{
 };
 // clang-format on
 
-QStringList placesOf(const BackupFolder& device, const SourceRow& source)
-{
-    const QString path = source.path;
-    const int star = path.indexOf(QChar(u'*'));
-    if (star < 0) {
-        return {path};
+/// Where the databases of a device lie. Rows of the table that stand together and look through the
+/// same directory have it listed once: a chat application has a hundred thousand files there.
+class Places {
+public:
+    explicit Places(const BackupFolder& device) : m_device(device) {}
+
+    QStringList of(const SourceRow& source)
+    {
+        const QString path = source.path;
+        const int star = path.indexOf(QChar(u'*'));
+        if (star < 0) {
+            return {path};
+        }
+        list(source.domain, path.left(path.lastIndexOf(QChar(u'/'), star)));
+        const QString end = path.mid(path.lastIndexOf(QChar(u'*')) + 1);
+        const QRegularExpression pattern(QRegularExpression::wildcardToRegularExpression(path));
+        QStringList places;
+        for (const QString& file : std::as_const(m_files)) {
+            if (file.endsWith(end) && pattern.match(file).hasMatch()) {
+                places.append(file);
+            }
+        }
+        return places;
     }
-    const QString directory = path.left(path.lastIndexOf(QChar(u'/'), star));
-    const QRegularExpression pattern(QRegularExpression::wildcardToRegularExpression(path));
-    return device.filesBelow(source.domain, directory).filter(pattern);
-}
+
+private:
+    void list(const QString& domain, const QString& directory)
+    {
+        if (domain != m_domain || directory != m_directory) {
+            m_domain = domain;
+            m_directory = directory;
+            m_files = m_device.filesBelow(domain, directory);
+        }
+    }
+
+    const BackupFolder& m_device;
+    QString m_domain;
+    QString m_directory;
+    QStringList m_files;
+};
 
 // The database of the device, or none; why there is none is told to the notices, its absence only
 // where `isExpected`.
@@ -263,12 +298,12 @@ std::optional<OpenedDatabase> openOrNote(const BackupFolder& folder, const QStri
     return std::move(**found);
 }
 
-void addFrom(const BackupFolder& device, const SourceRow& source, const SenderNames& names,
-    OpenedBackup& opened)
+void addFrom(const BackupFolder& device, Places& allPlaces, const SourceRow& source,
+    const SenderNames& names, OpenedBackup& opened)
 {
-    const QStringList places = placesOf(device, source);
+    const QStringList places = allPlaces.of(source);
     for (const QString& path : places) {
-        if (source.lies == Lies::Here && !device.find(source.domain, path)) {
+        if (source.lies >= Lies::Here && !device.find(source.domain, path)) {
             continue;
         }
         auto database = openOrNote(
@@ -282,7 +317,7 @@ void addFrom(const BackupFolder& device, const SourceRow& source, const SenderNa
                            .name = path,
                            .names = names},
                 opened);
-        } else {
+        } else if (source.lies != Lies::Perhaps) {
             opened.notices->add(
                 tr("%1 of the backup is not of a kind that can be read.").arg(path));
         }
@@ -365,8 +400,9 @@ formats::Result<OpenedBackup> openBackupFolder(const QString& path)
     if (const auto addressBook = openOrNote(device, kHome, kAddressBook, true, *opened.notices)) {
         names = SenderNames(addressBook->database);
     }
+    Places places(device);
     for (const SourceRow& source : kSources) {
-        addFrom(device, source, names, opened);
+        addFrom(device, places, source, names, opened);
     }
     for (const ListRow& source : kLists) {
         addFrom(device, source, opened);
