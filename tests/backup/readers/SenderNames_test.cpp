@@ -147,6 +147,9 @@ TEST_F(SenderNamesTest, LinkedCardsHaveTheNameOfThePerson)
         {"neither has a name", "UPDATE ABPerson SET PersonLink = 5, First = NULL, Last = NULL;", "",
             ""},
         {"0 is no link", "UPDATE ABPerson SET PersonLink = 0;", "Tom", "Thomas Berg"},
+        {"but where the table of links knows it",
+            "UPDATE ABPerson SET PersonLink = 0; INSERT INTO ABPersonLink VALUES (0, -1, -1);",
+            "Thomas Berg", "Thomas Berg"},
         {"other links", "UPDATE ABPerson SET PersonLink = ROWID;", "Tom", "Thomas Berg"},
     };
     for (const Row& row : kRows) {
@@ -166,8 +169,10 @@ TEST_F(SenderNamesTest, OtherPropertiesAreNoAddresses)
 {
     const backup::SenderNames names =
         read("INSERT INTO ABPerson (First) VALUES ('Mia');"
-             "INSERT INTO ABMultiValue (record_id, property, value) VALUES (1, 22, '5550101');");
+             "INSERT INTO ABMultiValue (record_id, property, value)"
+             " VALUES (1, 22, '5550101'), (1, 22, 'mia@example.org');");
     EXPECT_EQ(names.nameOf("5550101"), "");
+    EXPECT_EQ(names.nameOf("mia@example.org"), "");
 }
 
 TEST_F(SenderNamesTest, TheFirstOfTwoPeopleWithOneNumberIsNamed)

@@ -98,6 +98,10 @@ TEST(RecurrenceRule, IntervalStandsAboveOneAndNoughtDividesAsOne)
             .source = "6*1*",
             .end = {2024, 6, 8},
             .rule = "FREQ=DAILY;COUNT=1;INTERVAL=6"},
+        {.what = "other parts of a daily rule are not written",
+            .source = "2*1*D=+1MO;M=4;O=5;S=6",
+            .end = {2024, 6, 8},
+            .rule = "FREQ=DAILY;COUNT=3;INTERVAL=2"},
         {.what = "0", .source = "0*1*", .end = {2024, 6, 8}, .rule = "FREQ=DAILY;COUNT=6"},
         {.what = "0 weekly", .source = "0*2*", .end = {2024, 6, 17}, .rule = "FREQ=WEEKLY;COUNT=3"},
         {.what = "0 monthly",
@@ -299,6 +303,10 @@ TEST(RecurrenceRule, MonthlyByDayCountsMonths)
             .source = "1*3*D=0TU;M=3",
             .end = {2024, 9, 2},
             .rule = "FREQ=MONTHLY;COUNT=3;BYMONTHDAY=3;BYDAY=TU"},
+        {.what = "all parts in their order",
+            .source = "2*3*S=5;O=4;D=0TU;M=3",
+            .end = {2024, 10, 3},
+            .rule = "FREQ=MONTHLY;COUNT=3;INTERVAL=2;BYMONTHDAY=3;BYDAY=TU;BYSETPOS=5"},
         {.what = "starts behind the day and ends in the month",
             .source = "1*3*M=10",
             .start = {2024, 6, 11},
@@ -428,6 +436,10 @@ TEST(RecurrenceRule, YearlyByDayComparesMonthsAndThenDays)
             .source = "1*4*M=9",
             .end = {2027, 6, 2},
             .rule = "FREQ=YEARLY;COUNT=4;BYMONTHDAY=9"},
+        {.what = "all parts in their order, the day before the weekday",
+            .source = "3*4*S=1;O=6;D=0TU;M=3",
+            .end = {2030, 6, 2},
+            .rule = "FREQ=YEARLY;COUNT=2;INTERVAL=3;BYMONTHDAY=3;BYDAY=TU;BYMONTH=6;BYSETPOS=1"},
     });
 }
 
