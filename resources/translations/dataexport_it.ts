@@ -656,11 +656,6 @@
         <translation>Un messaggio è stato ritirato</translation>
     </message>
     <message>
-        <source>Call</source>
-        <extracomment>A line in a chat.</extracomment>
-        <translation>Chiamata</translation>
-    </message>
-    <message>
         <source>Friend request from %1</source>
         <extracomment>A line in a chat. %1: a name.</extracomment>
         <translation>Richiesta di amicizia da %1</translation>
@@ -669,11 +664,6 @@
         <source>Live location</source>
         <extracomment>In a chat, for a place that was shared for a while.</extracomment>
         <translation>Posizione in tempo reale</translation>
-    </message>
-    <message>
-        <source>Voice message</source>
-        <extracomment>In a chat, for what a message quotes.</extracomment>
-        <translation>Messaggio vocale</translation>
     </message>
     <message>
         <source>Other app</source>

@@ -656,11 +656,6 @@
         <translation>メッセージが取り消されました</translation>
     </message>
     <message>
-        <source>Call</source>
-        <extracomment>A line in a chat.</extracomment>
-        <translation>通話</translation>
-    </message>
-    <message>
         <source>Friend request from %1</source>
         <extracomment>A line in a chat. %1: a name.</extracomment>
         <translation>%1からの友達リクエスト</translation>
@@ -669,11 +664,6 @@
         <source>Live location</source>
         <extracomment>In a chat, for a place that was shared for a while.</extracomment>
         <translation>位置情報のライブ共有</translation>
-    </message>
-    <message>
-        <source>Voice message</source>
-        <extracomment>In a chat, for what a message quotes.</extracomment>
-        <translation>ボイスメッセージ</translation>
     </message>
     <message>
         <source>Other app</source>

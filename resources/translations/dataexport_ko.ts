@@ -656,11 +656,6 @@
         <translation>메시지가 회수되었습니다</translation>
     </message>
     <message>
-        <source>Call</source>
-        <extracomment>A line in a chat.</extracomment>
-        <translation>통화</translation>
-    </message>
-    <message>
         <source>Friend request from %1</source>
         <extracomment>A line in a chat. %1: a name.</extracomment>
         <translation>%1님의 친구 요청</translation>
@@ -669,11 +664,6 @@
         <source>Live location</source>
         <extracomment>In a chat, for a place that was shared for a while.</extracomment>
         <translation>실시간 위치</translation>
-    </message>
-    <message>
-        <source>Voice message</source>
-        <extracomment>In a chat, for what a message quotes.</extracomment>
-        <translation>음성 메시지</translation>
     </message>
     <message>
         <source>Other app</source>

@@ -656,11 +656,6 @@
         <translation>Uma mensagem foi recolhida</translation>
     </message>
     <message>
-        <source>Call</source>
-        <extracomment>A line in a chat.</extracomment>
-        <translation>Chamada</translation>
-    </message>
-    <message>
         <source>Friend request from %1</source>
         <extracomment>A line in a chat. %1: a name.</extracomment>
         <translation>Solicitação de amizade de %1</translation>
@@ -669,11 +664,6 @@
         <source>Live location</source>
         <extracomment>In a chat, for a place that was shared for a while.</extracomment>
         <translation>Localização em tempo real</translation>
-    </message>
-    <message>
-        <source>Voice message</source>
-        <extracomment>In a chat, for what a message quotes.</extracomment>
-        <translation>Mensagem de voz</translation>
     </message>
     <message>
         <source>Other app</source>
