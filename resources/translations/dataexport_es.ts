@@ -651,6 +651,31 @@
         <translation>[Sticker]</translation>
     </message>
     <message>
+        <source>[Album]</source>
+        <extracomment>In a chat, for an album of pictures that is not there itself.</extracomment>
+        <translation>[Álbum]</translation>
+    </message>
+    <message>
+        <source>[Album or post]</source>
+        <extracomment>In a chat, for what cannot be shown itself.</extracomment>
+        <translation>[Álbum o publicación]</translation>
+    </message>
+    <message>
+        <source>[Contact]</source>
+        <extracomment>In a chat, for the card of a contact of which nothing is known.</extracomment>
+        <translation>[Contacto]</translation>
+    </message>
+    <message>
+        <source>[Call]</source>
+        <extracomment>A line in a chat: a call of which nothing is known.</extracomment>
+        <translation>[Llamada]</translation>
+    </message>
+    <message>
+        <source>%1 Video</source>
+        <extracomment>Service of a call: %1 is the name of an app.</extracomment>
+        <translation>Video de %1</translation>
+    </message>
+    <message>
         <source>A message was recalled</source>
         <extracomment>A line in a chat: its sender took a message back.</extracomment>
         <translation>Se retiró un mensaje</translation>

@@ -19,7 +19,7 @@ class TableReader;
 enum class CallType { Incoming, Outgoing, Missed };
 
 /// What carried a call.
-enum class CallService { Phone, FaceTime, FaceTimeAudio, FaceTimeVideo, App };
+enum class CallService { Phone, FaceTime, FaceTimeAudio, FaceTimeVideo, App, AppVideo };
 
 /// One call as a store has it.
 struct Call {
@@ -29,7 +29,7 @@ struct Call {
     qint64 seconds = 0; ///< its duration
     CallType type = CallType::Incoming;
     CallService service = CallService::Phone;
-    QString app; ///< of CallService::App: its identifier; may be empty
+    QString app; ///< of CallService::App and AppVideo: its identifier; may be empty
 };
 
 /// The store of iOS 8 and later, and the one before it.

@@ -95,6 +95,13 @@ QString plainName(const QString& name)
     return plain.trimmed();
 }
 
+QString firstFilled(std::initializer_list<QString> texts)
+{
+    const auto* const found =
+        std::ranges::find_if(texts, [](const QString& text) { return !text.isEmpty(); });
+    return found != texts.end() ? *found : QString();
+}
+
 QString shownPhone(const QString& number)
 {
     QString shown = number.trimmed();

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <initializer_list>
+
 namespace backup {
 
 /// A call as the line of a chat tells it.
@@ -33,6 +35,9 @@ QString stickerText();
 
 /// `name` without the marks of direction that applications put around names.
 QString plainName(const QString& name);
+
+/// The first of the texts that is not empty; empty where none is.
+QString firstFilled(std::initializer_list<QString> texts);
 
 /// A number as a phone shows it: with "+" where it is one with a country's code.
 QString shownPhone(const QString& number);

@@ -7,6 +7,8 @@
 #include "backup/readers/CallData.h"
 #include "backup/readers/FoundDatabase.h"
 #include "backup/readers/HistoryData.h"
+#include "backup/readers/KikChats.h"
+#include "backup/readers/LineChats.h"
 #include "backup/readers/MessageStore.h"
 #include "backup/readers/NoteStore.h"
 #include "backup/readers/OldNoteStore.h"
@@ -14,13 +16,16 @@
 #include "backup/readers/PhotoLibrary.h"
 #include "backup/readers/ReminderData.h"
 #include "backup/readers/Ringtones.h"
+#include "backup/readers/ViberChats.h"
 #include "backup/readers/VoiceMemos.h"
 #include "backup/readers/Voicemail.h"
 #include "backup/readers/WeChatAccount.h"
 #include "backup/readers/WeChatAccounts.h"
 #include "backup/readers/calendar_rows.h"
 #include "backup/readers/call_rows.h"
+#include "backup/readers/chat_sources.h"
 #include "backup/readers/note_data.h"
+#include "backup/readers/open_beside.h"
 #include "backup/readers/photo_rows.h"
 #include "backup/readers/reminder_rows.h"
 #include "backup/readers/safari_lists.h"
@@ -44,6 +49,7 @@ namespace {
 
 constexpr QLatin1String kHome = "HomeDomain"_L1;
 constexpr QLatin1String kAddressBook = "Library/AddressBook/AddressBook.sqlitedb"_L1;
+constexpr QLatin1String kContactPictures = "Library/AddressBook/AddressBookImages.sqlitedb"_L1;
 
 QString tr(const char* text)
 {
@@ -152,27 +158,12 @@ void addPhotos(FoundDatabase found, OpenedBackup& opened)
     addPhotoLibrary(NamedDatabase{.opened = std::move(found.database), .name = found.name}, opened);
 }
 
-// Beside the address book on the device, and beside a loose one.
-std::optional<formats::Result<OpenedDatabase>> openContactPictures(
-    const FileLocator& files, Notices& notices)
-{
-    constexpr auto path = "Library/AddressBook/AddressBookImages.sqlitedb"_L1;
-    if (const auto* device = dynamic_cast<const BackupFolder*>(&files)) {
-        return device->openDatabase(kHome, path);
-    }
-    const QString found = files.locate(kHome, path);
-    if (found.isEmpty()) {
-        return std::nullopt;
-    }
-    return openWithLog(found, files.locate(kHome, path + "-wal"_L1), notices);
-}
-
 void addContacts(FoundDatabase found, OpenedBackup& opened)
 {
     auto book = std::make_unique<AddressBook>(
         std::move(found.database), found.name,
         [&files = *opened.files, &notices = *opened.notices] {
-            return openContactPictures(files, notices);
+            return openBeside(files, kHome, kContactPictures, notices);
         },
         *opened.notices);
     opened.records.add(book->contacts());
@@ -192,6 +183,7 @@ struct SourceRow {
     } lies = Lies::Somewhere;
     bool (*isOfKind)(const formats::Database&) = nullptr; ///< by its tables
     void (*add)(FoundDatabase, OpenedBackup&) = nullptr;  ///< fills in what it holds
+    int unless = -1; ///< a set: the place counts only where none above it has filled that
 };
 
 using Lies = SourceRow::Lies;
@@ -223,6 +215,14 @@ constexpr std::array kSources{
     SourceRow{kWeChatDomain, "Documents/*/DB/WCDB_Contact.sqlite"_L1, Lies::Here, WeChatContacts::isContacts, addWeChat},
     SourceRow{kWeChatDomain, "Documents/*/DB/MM.sqlite"_L1, Lies::Perhaps, WeChatAccount::isMessages, addWeChat},
     SourceRow{kWeChatDomain, "Documents/*/DB/message_*.sqlite"_L1, Lies::Perhaps, WeChatAccount::isMessages, addWeChat},
+    SourceRow{"AppDomainGroup-group.com.linecorp.line"_L1, "Library/Application Support/PrivateStore/P_*/Messages/Line.sqlite"_L1, Lies::Here, LineChats::isOfKind, addLine},
+    SourceRow{"AppDomain-jp.naver.line"_L1, "Library/Application Support/PrivateStore/P_*/Messages/Line.sqlite"_L1, Lies::Here, LineChats::isOfKind, addLine, 9},
+    SourceRow{"AppDomain-jp.naver.line"_L1, "Documents/talk.sqlite"_L1, Lies::Here, LineChats::isOfKind, addLine, 9},
+    SourceRow{"AppDomainGroup-group.viber.share.container"_L1, "com.viber/database/Contacts.data"_L1, Lies::Here, ViberChats::isOfKind, addViber},
+    SourceRow{"AppDomainGroup-group.viber.share.container"_L1, "database/Contacts.data"_L1, Lies::Here, ViberChats::isOfKind, addViber, 11},
+    SourceRow{"AppDomain-com.viber"_L1, "Documents/Contacts.data"_L1, Lies::Here, ViberChats::isOfKind, addViber, 11},
+    SourceRow{"AppDomainGroup-group.com.kik.chat"_L1, "cores/private/*/kik.sqlite"_L1, Lies::Here, KikChats::isOfKind, addKik},
+    SourceRow{"AppDomain-com.kik.chat"_L1, "Documents/kik.sqlite"_L1, Lies::Here, KikChats::isOfKind, addKik, 17},
 };
 
 /// A property list of an old release that fills a set which no database has filled.
@@ -301,6 +301,9 @@ std::optional<OpenedDatabase> openOrNote(const BackupFolder& folder, const QStri
 void addFrom(const BackupFolder& device, Places& allPlaces, const SourceRow& source,
     const SenderNames& names, OpenedBackup& opened)
 {
+    if (source.unless >= 0 && opened.records.getPRData(source.unless) != nullptr) {
+        return;
+    }
     const QStringList places = allPlaces.of(source);
     for (const QString& path : places) {
         if (source.lies >= Lies::Here && !device.find(source.domain, path)) {

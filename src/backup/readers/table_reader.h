@@ -44,12 +44,13 @@ public:
     formats::Result<formats::Statement> prepareRow(
         const QString& table, std::span<const WantedColumn> columns) const;
 
+    /// SQL for the wanted columns in their order; one that the table lacks is NULL.
+    QString selection(const QString& table, std::span<const WantedColumn> columns) const;
+
     /// Tells that the database is damaged.
     void noteDamage() const;
 
 private:
-    QString selection(const QString& table, std::span<const WantedColumn> columns) const;
-
     const formats::Database& m_database;
     const QString& m_name;
     Notices& m_notices;
