@@ -72,14 +72,18 @@ void JpegMarkers::takeStart(char byte)
     }
 }
 
+// Stays here while there is nothing but coded data: it is most of the file.
 const char* JpegMarkers::findMarker(const char* at, const char* end)
 {
-    const void* found = std::memchr(at, kFill, static_cast<std::size_t>(end - at));
-    if (found == nullptr) {
-        return end;
+    while (const void* found = std::memchr(at, kFill, static_cast<std::size_t>(end - at))) {
+        at = static_cast<const char*>(found) + 1;
+        if (at == end || *at != 0) {
+            m_expect = Expect::Code;
+            return at;
+        }
+        ++at;
     }
-    m_expect = Expect::Code;
-    return static_cast<const char*>(found) + 1;
+    return end;
 }
 
 void JpegMarkers::takeCode(char byte)
