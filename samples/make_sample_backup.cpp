@@ -10,6 +10,7 @@
 //   calendar.json       the calendars of all accounts
 //   safari.json         bookmarks, reading list and history
 //   media.json          photos, voice memos, voicemail, files of apps
+//   wechat.json         chats and contacts of WeChat
 //   media/              files that messages carry, beside those that this program draws
 //   schema/             the definitions of the databases
 //
@@ -26,6 +27,7 @@
 #include "maker/Reminders.h"
 #include "maker/Safari.h"
 #include "maker/VoiceRecordings.h"
+#include "maker/WeChat.h"
 #include "maker/common.h"
 #include "maker/media.h"
 #include "maker/plist_writer.h"
@@ -154,6 +156,13 @@ void writeMedia(const Paths& paths, BackupWriter& backup)
     }
 }
 
+void writeWeChat(const Paths& paths, BackupWriter& backup)
+{
+    sample::WeChat(backup,
+        {.scratch = paths.scratch, .schemas = paths.sources + "/schema", .media = paths.media()})
+        .write(sample::readJson(paths.sources + "/wechat.json"));
+}
+
 void writeOtherEntries(const QJsonObject& phone, BackupWriter& backup)
 {
     for (const QJsonValue& entry : sample::entriesOf(phone["directories"])) {
@@ -209,6 +218,7 @@ void makeBackup(const Paths& paths)
     writeCalendar(paths, backup);
     writeSafari(paths, backup);
     writeMedia(paths, backup);
+    writeWeChat(paths, backup);
     writeOtherEntries(phone, backup);
     backup.writeIndex(paths.schema("Manifest"));
 
