@@ -11,6 +11,7 @@
 #include "backup/container/BackupFolder.h"
 #include "backup/container/Notices.h"
 #include "backup/readers/chat_lines.h"
+#include "backup/readers/file_signature.h"
 #include "backup/readers/table_reader.h"
 #include "platform/literals.h"
 
@@ -343,7 +344,7 @@ ChatFile WeChatAccount::listedFile(
         file.isThumbnail || file.path.endsWith(".pic"_L1) || file.path.endsWith(".pic_hd"_L1);
     QString shown = name.isEmpty() ? lastPart(file.path) : name;
     if (isPicture) {
-        const QString ending = pictureEnding(m_media.locate(file.path));
+        const QString ending = endingOfFile(m_media.locate(file.path));
         shown = ending.isEmpty() ? lastPart(file.path)
                                  : QFileInfo(shown).completeBaseName() + QChar(u'.') + ending;
     }

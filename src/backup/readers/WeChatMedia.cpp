@@ -9,12 +9,9 @@
 #include "backup/readers/DeviceFileItem.h"
 #include "platform/literals.h"
 
-#include <QFile>
-
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <string_view>
 #include <utility>
 
 namespace backup {
@@ -36,20 +33,6 @@ constexpr std::array kFolders{
 // The best first: as it was taken, as it was sent, whatever else there is, a small picture of it.
 constexpr std::array kBetter{"_raw.mp4"_L1, ".pic_hd"_L1, ".mp4"_L1, ".pic"_L1};
 constexpr std::array kThumbnails{"_thum"_L1};
-
-struct SignatureRow {
-    std::string_view begin;
-    std::size_t offset = 0;
-    QLatin1String ending;
-};
-constexpr std::array kSignatures{
-    SignatureRow{"\xFF\xD8\xFF", 0, "jpg"_L1},
-    SignatureRow{"\x89PNG",      0, "png"_L1},
-    SignatureRow{"GIF8",         0, "gif"_L1},
-    SignatureRow{"WEBP",         8, "webp"_L1},
-    SignatureRow{"ftyphe",       4, "heic"_L1},
-    SignatureRow{"ftypmif1",     4, "heic"_L1},
-};
 // clang-format on
 
 bool isThumbnail(const QString& path)
@@ -135,21 +118,6 @@ QMap<QString, WeChatChatFiles> WeChatMedia::ofAll() const
 QString WeChatMedia::locate(const QString& path) const
 {
     return m_files.locate(kWeChatDomain, path);
-}
-
-QString pictureEnding(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    const QByteArray head = file.read(16);
-    const std::string_view bytes(head.constData(), static_cast<std::size_t>(head.size()));
-    const auto* const row = std::ranges::find_if(kSignatures, [&](const SignatureRow& signature) {
-        return bytes.size() > signature.offset
-               && bytes.substr(signature.offset).starts_with(signature.begin);
-    });
-    return row == kSignatures.end() ? QString() : QString(row->ending);
 }
 
 } // namespace backup

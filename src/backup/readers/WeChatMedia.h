@@ -59,7 +59,4 @@ private:
 inline constexpr QLatin1String kWeChatDomain = "AppDomain-com.tencent.xin"_L1;
 inline constexpr QLatin1String kWeChatGroupDomain = "AppDomainGroup-group.com.tencent.xin"_L1;
 
-/// The ending that fits a picture's first bytes; empty for what is none that is known.
-QString pictureEnding(const QString& path);
-
 } // namespace backup

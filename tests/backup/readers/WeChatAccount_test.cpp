@@ -4,7 +4,7 @@
 namespace {
 
 const QByteArray kJpeg = QByteArray::fromHex("FFD8FFE000104A464946");
-const QByteArray kPng = QByteArray::fromHex("89504E470D0A1A0A");
+const QByteArray kPng = QByteArray::fromHex("89504E470D0A1A0A00");
 
 QByteArray room(const QByteArray& users, const QByteArray& xml)
 {
