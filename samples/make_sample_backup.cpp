@@ -11,6 +11,9 @@
 //   safari.json         bookmarks, reading list and history
 //   media.json          photos, voice memos, voicemail, files of apps
 //   wechat.json         chats and contacts of WeChat
+//   line.json           the chats of LINE, and of the two other applications
+//   viber.json
+//   kik.json
 //   media/              files that messages carry, beside those that this program draws
 //   schema/             the definitions of the databases
 //
@@ -21,11 +24,14 @@
 #include "maker/CallHistory.h"
 #include "maker/Conversations.h"
 #include "maker/Database.h"
+#include "maker/KikStore.h"
+#include "maker/LineStore.h"
 #include "maker/MessageStore.h"
 #include "maker/NoteStore.h"
 #include "maker/PhotoLibrary.h"
 #include "maker/Reminders.h"
 #include "maker/Safari.h"
+#include "maker/ViberStore.h"
 #include "maker/VoiceRecordings.h"
 #include "maker/WeChat.h"
 #include "maker/common.h"
@@ -163,6 +169,32 @@ void writeWeChat(const Paths& paths, BackupWriter& backup)
         .write(sample::readJson(paths.sources + "/wechat.json"));
 }
 
+void writeLine(const Paths& paths, BackupWriter& backup)
+{
+    const QString messages = sample::LineStore::directory() + "Messages/";
+    Database groups(paths.scratch + "/UnifiedGroup.sqlite", paths.schema("LineGroups"),
+        Database::Journal::WriteAheadLog);
+    Database chats(
+        paths.scratch + "/Line.sqlite", paths.schema("Line"), Database::Journal::WriteAheadLog);
+    sample::LineStore(chats, groups, backup, paths.media())
+        .write(sample::readJson(paths.sources + "/line.json"));
+    groups.checkpoint();
+    chats.checkpoint();
+    backup.addFile(sample::LineStore::kDomain, messages + "UnifiedGroup.sqlite", groups.mainFile());
+    backup.addFile(sample::LineStore::kDomain, messages + "Line.sqlite", chats.mainFile());
+}
+
+void writeChats(const Paths& paths, BackupWriter& backup)
+{
+    writeLine(paths, backup);
+    writeStore<sample::ViberStore>(paths, "Viber", sample::ViberStore::kDomain,
+        "com.viber/database/Contacts.data", sample::readJson(paths.sources + "/viber.json"), backup,
+        backup, paths.media());
+    writeStore<sample::KikStore>(paths, "Kik", sample::KikStore::kDomain,
+        sample::KikStore::directory() + "kik.sqlite", sample::readJson(paths.sources + "/kik.json"),
+        backup, backup, paths.media());
+}
+
 void writeOtherEntries(const QJsonObject& phone, BackupWriter& backup)
 {
     for (const QJsonValue& entry : sample::entriesOf(phone["directories"])) {
@@ -219,6 +251,7 @@ void makeBackup(const Paths& paths)
     writeSafari(paths, backup);
     writeMedia(paths, backup);
     writeWeChat(paths, backup);
+    writeChats(paths, backup);
     writeOtherEntries(phone, backup);
     backup.writeIndex(paths.schema("Manifest"));
 

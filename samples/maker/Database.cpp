@@ -9,6 +9,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace sample {
 
@@ -64,6 +65,9 @@ void bind(sqlite3_stmt* statement, int place, const QVariant& value)
         bindText(statement, place, value.toString());
     } else if (value.userType() == QMetaType::QByteArray) {
         bindBytes(statement, place, value.toByteArray());
+    } else if (value.userType() == QMetaType::Double
+               && value.toDouble() != std::floor(value.toDouble())) {
+        sqlite3_bind_double(statement, place, value.toDouble());
     } else if (value.isValid()) {
         sqlite3_bind_int64(statement, place, value.toLongLong());
     }

@@ -122,7 +122,7 @@ QVariantMap metadataOf(const formats::Statement& row)
 }
 
 // What the metadata say of the call: DURATION milliseconds, TYPE "V" with pictures, RESULT.
-QString callText(const QVariantMap& metadata, bool fromMe)
+QString callText(const QVariantMap& metadata, const ChatMessage& message)
 {
     constexpr int second = 1000;
     const QString result = metadata.value("RESULT"_L1).toString();
@@ -131,9 +131,10 @@ QString callText(const QVariantMap& metadata, bool fromMe)
         return tr("[Call]");
     }
     return callLine({.isVideo = metadata.value("TYPE"_L1).toString() == "V"_L1,
-        .isMissed = !fromMe && ms == 0 && !result.isEmpty() && result != "NORMAL"_L1,
-        .fromMe = fromMe,
-        .seconds = ms / second});
+        .isMissed = !message.fromMe && ms == 0 && !result.isEmpty() && result != "NORMAL"_L1,
+        .fromMe = message.fromMe,
+        .seconds = ms / second,
+        .caller = message.member});
 }
 
 // What stands in the bubble, or in the line without one.
@@ -142,7 +143,7 @@ void addContents(const formats::Statement& row, const KindRow& kind, ChatMessage
     QString& text = message.content;
     switch (kind.contentType) {
     case Call:
-        text = callText(metadataOf(row), message.fromMe);
+        text = callText(metadataOf(row), message);
         break;
     case Place:
         text = locationText(text, row.real(Latitude), row.real(Longitude));

@@ -144,6 +144,9 @@ std::vector<PRWhatsappMsg> TableChats::messages(const ChatSummary& chat)
     m_rows.read(chat.id, [&](const formats::Statement& row) {
         StoredMessage message = readMessage(row, stored);
         message.message.date = m_dateOf(row, Date);
+        if (message.message.type == static_cast<int>(MsgType::GroupEvent)) {
+            message.message.member.clear(); // its words say all
+        }
         add(message, messages);
     });
     sortByDate(messages);

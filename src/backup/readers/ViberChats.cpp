@@ -339,7 +339,8 @@ TableChats::StoredMessage ViberChats::readMessage(
         message.content = callLine({.isVideo = call->service == CallService::AppVideo,
             .isMissed = call->type == CallType::Missed,
             .fromMe = call->type == CallType::Outgoing,
-            .seconds = call->seconds});
+            .seconds = call->seconds,
+            .caller = message.member});
     } else if (attachment == m_attachments.constEnd()) {
         finishText(row, message);
     }
@@ -358,17 +359,20 @@ std::vector<ChatFile> ViberChats::leftOverFiles()
     return files;
 }
 
-// The other person of the chat that shows the call.
+// Who called, or the other person of the chat that shows the call.
 qint64 ViberChats::partnerOfMessage(qint64 message) const
 {
-    auto query =
-        database().prepare("SELECT c.ZINTERLOCUTOR FROM ZVIBERMESSAGE m JOIN ZCONVERSATION c"
-                           " ON c.Z_PK = m.ZCONVERSATION WHERE m.Z_PK = ?"_L1);
-    if (!query) {
+    const std::array<WantedColumn, 2> columns{
+        {{"ZPHONENUMINDEX|ZPHONENUMBERINDEX"_L1}, {"ZCONVERSATION"_L1}}};
+    auto row = reader().prepareRow("ZVIBERMESSAGE"_L1, columns);
+    if (!row || !row->bind(1, message).next()) {
         return 0;
     }
-    query->bind(1, message);
-    return query->next() ? query->integer(0) : 0;
+    const qint64 sender = row->integer(0);
+    const std::array<WantedColumn, 1> partner{{{"ZINTERLOCUTOR"_L1}}};
+    auto chat = reader().prepareRow("ZCONVERSATION"_L1, partner);
+    const bool isRead = chat && chat->bind(1, row->integer(1)).next();
+    return isRead && chat->integer(0) != 0 ? chat->integer(0) : sender;
 }
 
 RecordList ViberChats::calls()

@@ -48,7 +48,8 @@ bool isDigit(QChar c)
 
 QString callLine(const ChatCall& call)
 {
-    const QString words = callWords(call);
+    const QString caller = call.caller.isEmpty() ? QString() : call.caller + ": "_L1;
+    const QString words = caller + callWords(call);
     return call.seconds > 0 ? words + " ("_L1 + durationText(call.seconds) + QChar(u')') : words;
 }
 

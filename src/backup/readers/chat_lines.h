@@ -13,9 +13,10 @@ struct ChatCall {
     bool isMissed = false;
     bool fromMe = false;
     qint64 seconds = 0; ///< 0: unknown, or nobody answered
+    QString caller;     ///< of a call in a group; empty for the owner, and where it is known
 };
 
-/// "Missed voice call", "Outgoing video call (0:05:12)"
+/// "Missed voice call", "Outgoing video call (0:05:12)", "Mia: Incoming voice call"
 QString callLine(const ChatCall& call);
 
 /// "52.5163, 13.3777"; empty for what is no place on earth, and for 0, 0.

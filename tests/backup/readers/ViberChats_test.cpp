@@ -251,6 +251,14 @@ TEST_F(ViberChatsTest, CallIsALineInItsChat)
     EXPECT_EQ(shownMessages(kChats, 0), QStringList("< [6] Missed voice call"));
 }
 
+TEST_F(ViberChatsTest, CallInAGroupIsThatOfItsCaller)
+{
+    openWith({kCallSchema, message("ZCONVERSATION, ZPHONENUMINDEX, ZSTATE", "2, 2, 'received'"),
+        "INSERT INTO ZRECENT (ZCALLLOGMESSAGE, ZDATE, ZCALLTYPE) VALUES (1, 700000000, 'missed')"});
+    EXPECT_EQ(lines(kCalls),
+        QStringList("Jo | +12025550114 | 2023-03-08 22:26 | 0:00:00 | Missed | Viber"));
+}
+
 TEST_F(ViberChatsTest, CallTakesWhatItLacksFromItsLine)
 {
     openWith({kCallSchema,

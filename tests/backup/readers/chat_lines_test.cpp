@@ -19,6 +19,7 @@ TEST(ChatLines, CallTellsWhoCalledHowAndHowLong)
         Row{{.isVideo = true, .isMissed = true}, "Missed video call"},
         Row{{.seconds = 312}, "Incoming voice call (0:05:12)"},
         Row{{.isVideo = true}, "Incoming video call"},
+        Row{{.isMissed = true, .caller = "Mia"}, "Mia: Missed voice call"},
         Row{{.fromMe = true}, "Outgoing voice call"},
         Row{{.isVideo = true, .fromMe = true, .seconds = 3600}, "Outgoing video call (1:00:00)"},
     };

@@ -1,0 +1,13 @@
+-- SPDX-License-Identifier: MIT
+-- Schema of the groups of a LINE account: UnifiedGroup.sqlite beside Line.sqlite.
+
+CREATE TABLE ZUNIFIEDGROUP (
+    Z_PK INTEGER PRIMARY KEY,
+    Z_ENT INTEGER,
+    Z_OPT INTEGER,
+    ZID VARCHAR,                      -- the mid of its chat
+    ZNAME VARCHAR
+);
+
+CREATE TABLE Z_PRIMARYKEY (Z_ENT INTEGER PRIMARY KEY, Z_NAME VARCHAR, Z_SUPER INTEGER, Z_MAX INTEGER);
+CREATE TABLE Z_METADATA (Z_VERSION INTEGER PRIMARY KEY, Z_UUID VARCHAR, Z_PLIST BLOB);
