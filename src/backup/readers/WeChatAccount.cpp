@@ -163,21 +163,26 @@ void WeChatAccount::findChats()
         const QStringList tables =
             m_messages[database].opened.database.tables().filter(chatTable());
         for (const QString& table : tables) {
-            const auto lastDate = lastDateIn(database, table);
-            if (!lastDate) {
-                continue;
-            }
-            if (!known.contains(table)) {
-                known.insert(table, m_chats.size());
-                const QString hash = chatTable().match(table).captured(1);
-                m_chats.push_back({.hash = hash, .table = table, .user = m_people.userOf(hash)});
-            }
-            Chat& chat = m_chats[known.value(table)];
-            chat.databases.push_back(database);
-            if (dateOrder(*lastDate) > dateOrder(chat.lastDate)) {
-                chat.lastDate = *lastDate;
+            if (const auto lastDate = lastDateIn(database, table)) {
+                const std::size_t index = known.value(table, m_chats.size());
+                known.insert(table, index);
+                addTable(table, index, database, *lastDate);
             }
         }
+    }
+}
+
+void WeChatAccount::addTable(
+    const QString& table, std::size_t index, std::size_t database, const QDateTime& lastDate)
+{
+    if (index == m_chats.size()) {
+        const QString hash = chatTable().match(table).captured(1);
+        m_chats.push_back({.hash = hash, .table = table, .user = m_people.userOf(hash)});
+    }
+    Chat& chat = m_chats[index];
+    chat.databases.push_back(database);
+    if (dateOrder(lastDate) > dateOrder(chat.lastDate)) {
+        chat.lastDate = lastDate;
     }
 }
 
@@ -197,6 +202,11 @@ void WeChatAccount::findDeletedChats()
     if (m_messages.empty()) {
         return; // nothing tells that they are gone
     }
+    QSet<QString> tables;
+    for (const NamedDatabase& database : m_messages) {
+        const QStringList names = database.opened.database.tables();
+        tables.unite(QSet<QString>(names.begin(), names.end()));
+    }
     QStringList paths = m_files.filesBelow(kWeChatDomain, m_directory + "/UniversalSession"_L1);
     paths.append(m_directory + "/session/session.db"_L1);
     for (const QString& path : std::as_const(paths)) {
@@ -204,20 +214,16 @@ void WeChatAccount::findDeletedChats()
             continue;
         }
         if (const auto session = openBeside(path)) {
-            addDeletedChats(*session);
+            addDeletedChats(*session, tables);
         }
     }
 }
 
-void WeChatAccount::addDeletedChats(const NamedDatabase& session)
+// Each is added once: its table counts as known from then on.
+void WeChatAccount::addDeletedChats(const NamedDatabase& session, QSet<QString>& tables)
 {
     if (!session.opened.database.hasTable(QStringLiteral("SessionAbstract"))) {
         return;
-    }
-    QSet<QString> tables;
-    for (const NamedDatabase& database : m_messages) {
-        const QStringList names = database.opened.database.tables();
-        tables.unite(QSet<QString>(names.begin(), names.end()));
     }
     const TableReader reader(session.opened.database, session.name, m_notices);
     const std::vector<WantedColumn> columns{
@@ -225,10 +231,9 @@ void WeChatAccount::addDeletedChats(const NamedDatabase& session)
     reader.read(QStringLiteral("SessionAbstract"), columns, [&](const formats::Statement& row) {
         const QString user = row.text(0);
         const QString hash = weChatHash(user);
-        const bool isListed =
-            std::ranges::any_of(m_chats, [&](const Chat& chat) { return chat.hash == hash; });
-        if (isOfPeople(user) && !isListed && !tables.contains("Chat_"_L1 + hash)
+        if (isOfPeople(user) && !tables.contains("Chat_"_L1 + hash)
             && !tables.contains("Hello_"_L1 + hash)) {
+            tables.insert("Chat_"_L1 + hash);
             m_chats.push_back({.hash = hash, .user = user, .lastDate = unixDate(row, 1)});
         }
     });
@@ -257,32 +262,37 @@ std::vector<ChatSummary> WeChatAccount::chats()
     return summaries;
 }
 
+WeChatAccount::StoredMessage WeChatAccount::storedMessage(
+    const Chat& chat, const formats::Statement& row) const
+{
+    StoredMessage message{.id = row.integer(Id),
+        .serverId = row.integer(ServerId),
+        .seconds = row.integer(Created),
+        .fromMe = row.integer(Received) == 0,
+        .type = row.integer(Type),
+        .text = row.text(Text)};
+    if (message.fromMe || !(chat.user.isEmpty() || isWeChatRoom(chat.user))) {
+        return message;
+    }
+    // Where nobody knows who the other side is, a room shows itself by the senders of its texts.
+    WeChatSenderText split = splitSender(message.text);
+    if (!chat.user.isEmpty() || split.sender.startsWith("wxid_"_L1)
+        || m_people.find(split.sender) != nullptr) {
+        message.sender = std::move(split.sender);
+        message.text = std::move(split.text);
+    }
+    return message;
+}
+
 std::vector<WeChatAccount::StoredMessage> WeChatAccount::storedMessages(const Chat& chat) const
 {
     std::vector<StoredMessage> messages;
-    // Who the other side is may not be known; then a text of a room shows itself by its sender.
-    const bool mayBeRoom = chat.user.isEmpty() || isWeChatRoom(chat.user);
-    const auto take = [&](const formats::Statement& row) {
-        StoredMessage message{.id = row.integer(Id),
-            .serverId = row.integer(ServerId),
-            .seconds = row.integer(Created),
-            .fromMe = row.integer(Received) == 0,
-            .type = row.integer(Type),
-            .text = row.text(Text)};
-        if (mayBeRoom && !message.fromMe) {
-            WeChatSenderText split = splitSender(message.text);
-            if (!chat.user.isEmpty() || split.sender.startsWith("wxid_"_L1)
-                || m_people.find(split.sender) != nullptr) {
-                message.sender = std::move(split.sender);
-                message.text = std::move(split.text);
-            }
-        }
-        messages.push_back(std::move(message));
-    };
     for (const std::size_t index : chat.databases) {
         const NamedDatabase& database = m_messages[index];
         TableReader(database.opened.database, database.name, m_notices)
-            .read(chat.table, wantedColumns(), take);
+            .read(chat.table, wantedColumns(), [&](const formats::Statement& row) {
+                messages.push_back(storedMessage(chat, row));
+            });
     }
     const auto order = [](const StoredMessage& message) {
         return std::tuple(message.seconds, message.id, message.serverId);
@@ -319,17 +329,17 @@ ChatMessage WeChatAccount::shownMessage(
     return message;
 }
 
-std::vector<PRWhatsappMsg> WeChatAccount::messages(const ChatSummary& summary)
+std::vector<PRWhatsappMsg> WeChatAccount::messages(const ChatSummary& chat)
 {
-    const Chat& chat = m_chats[static_cast<std::size_t>(summary.id)];
-    const WeChatChatFiles files = m_media.ofChat(chat.hash);
-    std::vector<StoredMessage> stored = storedMessages(chat);
+    const Chat& found = m_chats[static_cast<std::size_t>(chat.id)];
+    const WeChatChatFiles files = m_media.ofChat(found.hash);
+    std::vector<StoredMessage> stored = storedMessages(found);
     const bool hasServerIds = std::ranges::any_of(
         stored, [](const StoredMessage& message) { return message.serverId != 0; });
     std::vector<PRWhatsappMsg> messages;
     messages.reserve(stored.size());
     for (StoredMessage& one : stored) {
-        ChatMessage message = shownMessage(chat, files, one);
+        ChatMessage message = shownMessage(found, files, one);
         message.sentDone = !one.fromMe || one.serverId != 0 || !hasServerIds;
         messages.emplace_back(std::move(message));
         one.text.clear(); // not twice in memory
@@ -359,30 +369,34 @@ std::vector<ChatFile> WeChatAccount::files()
     QHash<QString, QString> titles;
     std::vector<ChatFile> listed;
     for (const Chat& chat : m_chats) {
-        const QString title = titleOf(chat);
-        titles.insert(chat.hash, title);
+        titles.insert(chat.hash, titleOf(chat));
         const auto files = all.constFind(chat.hash);
-        if (files == all.constEnd()) {
-            continue;
-        }
-        for (const StoredMessage& stored : storedMessages(chat)) {
-            const WeChatContent content = weChatContent(stored.type, stored.text);
-            const WeChatFile file = files->find(content.folder, stored.id);
-            if (file.path.isEmpty()) {
-                continue;
-            }
-            taken[chat.hash].insert({content.folder, stored.id});
-            if (!content.previewOnly) {
-                listed.push_back(
-                    listedFile(file, documentName(content.fileName, file.path), title));
-                listed.back().date = stored.date();
-            }
+        if (files != all.constEnd()) {
+            addFilesOfMessages(chat, *files, taken[chat.hash], listed);
         }
     }
     for (auto files = all.constBegin(); files != all.constEnd(); ++files) {
         addOtherFiles(*files, taken.value(files.key()), titles.value(files.key()), listed);
     }
     return listed;
+}
+
+void WeChatAccount::addFilesOfMessages(const Chat& chat, const WeChatChatFiles& files,
+    std::set<WeChatChatFiles::Place>& taken, std::vector<ChatFile>& listed) const
+{
+    const QString title = titleOf(chat);
+    for (const StoredMessage& stored : storedMessages(chat)) {
+        const WeChatContent content = weChatContent(stored.type, stored.text);
+        const WeChatFile file = files.find(content.folder, stored.id);
+        if (file.path.isEmpty()) {
+            continue;
+        }
+        taken.insert({content.folder, stored.id});
+        if (!content.previewOnly) {
+            listed.push_back(listedFile(file, documentName(content.fileName, file.path), title));
+            listed.back().date = stored.date();
+        }
+    }
 }
 
 void WeChatAccount::addOtherFiles(const WeChatChatFiles& files,

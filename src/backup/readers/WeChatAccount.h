@@ -54,14 +54,19 @@ private:
     void readLoginInfo();
     std::optional<NamedDatabase> openBeside(const QString& path) const;
     void findChats();
+    void addTable(
+        const QString& table, std::size_t index, std::size_t database, const QDateTime& lastDate);
     std::optional<QDateTime> lastDateIn(std::size_t database, const QString& table) const;
     void findDeletedChats();
-    void addDeletedChats(const NamedDatabase& session);
+    void addDeletedChats(const NamedDatabase& session, QSet<QString>& tables);
     QString titleOf(const Chat& chat) const;
+    StoredMessage storedMessage(const Chat& chat, const formats::Statement& row) const;
     std::vector<StoredMessage> storedMessages(const Chat& chat) const;
     ChatMessage shownMessage(
         const Chat& chat, const WeChatChatFiles& files, const StoredMessage& stored) const;
     ChatFile listedFile(const WeChatFile& file, const QString& name, const QString& title) const;
+    void addFilesOfMessages(const Chat& chat, const WeChatChatFiles& files,
+        std::set<WeChatChatFiles::Place>& taken, std::vector<ChatFile>& listed) const;
     void addOtherFiles(const WeChatChatFiles& files, const std::set<WeChatChatFiles::Place>& taken,
         const QString& title, std::vector<ChatFile>& listed) const;
 

@@ -83,27 +83,34 @@ bool WeChatContacts::isContacts(const formats::Database& database)
 
 void WeChatContacts::readNames(WeChatPeople& people) const
 {
+    forEachTable([&](const TableReader& reader, QLatin1String table) {
+        reader.read(table, wantedColumns(), [&people](const formats::Statement& row) {
+            WeChatName name{.user = row.text(User)};
+            readRemark(row.blobView(Remark), name);
+            name.phones = phonesIn(row.blobView(Social));
+            if (isWeChatRoom(name.user)) {
+                people.addRoom(name.user, roomMembers(row.blobView(ChatRoom)));
+            }
+            people.add(std::move(name));
+        });
+    });
+}
+
+void WeChatContacts::forEachTable(
+    const std::function<void(const TableReader&, QLatin1String)>& read) const
+{
     for (const NamedDatabase& database : m_databases) {
         const TableReader reader(database.opened.database, database.name, m_notices);
         for (const QLatin1String table : kTables) {
-            if (!reader.database().hasTable(table)) {
-                continue;
+            if (reader.database().hasTable(table)) {
+                read(reader, table);
             }
-            reader.read(table, wantedColumns(), [&people](const formats::Statement& row) {
-                WeChatName name{.user = row.text(User)};
-                readRemark(row.blobView(Remark), name);
-                name.phones = phonesIn(row.blobView(Social));
-                if (isWeChatRoom(name.user)) {
-                    people.addRoom(name.user, roomMembers(row.blobView(ChatRoom)));
-                }
-                people.add(std::move(name));
-            });
         }
     }
 }
 
-void WeChatContacts::readTable(const NamedDatabase& database, const QString& table,
-    const Listing& listing, Contents& contents) const
+void WeChatContacts::readTable(
+    const TableReader& reader, const QString& table, const Listing& listing, Contents& contents)
 {
     struct Found {
         bool isWanted = false;
@@ -113,7 +120,6 @@ void WeChatContacts::readTable(const NamedDatabase& database, const QString& tab
     const QSet<QString> pictures(paths.begin(), paths.end());
     std::vector<Found> found;
     bool anyOnList = false;
-    const TableReader reader(database.opened.database, database.name, m_notices);
     reader.read(table, wantedColumns(), [&](const formats::Statement& row) {
         const QString user = row.text(User);
         const WeChatName* name = listing.people.find(user);
@@ -147,13 +153,9 @@ void WeChatContacts::readTable(const NamedDatabase& database, const QString& tab
 RecordList WeChatContacts::records(const Listing& listing) const
 {
     Contents contents;
-    for (const NamedDatabase& database : m_databases) {
-        for (const QLatin1String table : kTables) {
-            if (database.opened.database.hasTable(table)) {
-                readTable(database, table, listing, contents);
-            }
-        }
-    }
+    forEachTable([&](const TableReader& reader, QLatin1String table) {
+        readTable(reader, table, listing, contents);
+    });
     std::ranges::stable_sort(contents, [](const auto& one, const auto& other) {
         return one.room != other.room ? other.room
                                       : one.name.compare(other.name, Qt::CaseInsensitive) < 0;

@@ -9,9 +9,12 @@
 #include <QSet>
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace backup {
+
+class TableReader;
 
 /// The contact databases of one account of WeChat.
 class WeChatContacts {
@@ -40,8 +43,9 @@ public:
 
 private:
     using Contents = std::vector<PRWeiChatContact::Content>;
-    void readTable(const NamedDatabase& database, const QString& table, const Listing& listing,
-        Contents& contents) const;
+    static void readTable(const TableReader& reader, const QString& table, const Listing& listing,
+        Contents& contents);
+    void forEachTable(const std::function<void(const TableReader&, QLatin1String)>& read) const;
 
     Notices& m_notices;
     std::vector<NamedDatabase> m_databases;
