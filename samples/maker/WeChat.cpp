@@ -47,7 +47,7 @@ QByteArray field(int number, const QJsonValue& text)
 // No sound at all in the form that the application has: there is no encoder.
 QByteArray silence()
 {
-    return QByteArray("\x02#!SILK_V3\xFF\xFF", 12);
+    return {"\x02#!SILK_V3\xFF\xFF", 12};
 }
 
 qint64 unixSeconds(const QJsonValue& moment)

@@ -55,26 +55,31 @@ std::optional<std::span<const unsigned char>> WireFields::sized()
     return bytes;
 }
 
+// The value behind a key, put into `field`.
+bool WireFields::readValue(unsigned type, WireField& field)
+{
+    if (type == Sized) {
+        const auto bytes = sized();
+        field.isBytes = bytes.has_value();
+        field.bytes = bytes.value_or(std::span<const unsigned char>());
+        return field.isBytes;
+    }
+    if (type != Varint && type != Eight && type != Four) {
+        return false;
+    }
+    const auto value = type == Varint ? varint() : fixed(type == Eight ? 8 : 4);
+    field.value = value.value_or(0);
+    return value.has_value();
+}
+
 std::optional<WireField> WireFields::next()
 {
     const auto start = m_rest;
-    const auto key = m_rest.empty() ? std::nullopt : varint();
-    if (key && *key >> 3U != 0 && *key >> 3U <= UINT32_MAX) {
-        WireField field{.number = static_cast<std::uint32_t>(*key >> 3U)};
-        const auto type = static_cast<unsigned>(*key & 7U);
-        if (type == Sized) {
-            if (const auto bytes = sized()) {
-                field.isBytes = true;
-                field.bytes = *bytes;
-                return field;
-            }
-        } else if (type == Varint || type == Eight || type == Four) {
-            const auto value = type == Varint ? varint() : fixed(type == Eight ? 8 : 4);
-            if (value) {
-                field.value = *value;
-                return field;
-            }
-        }
+    const auto key = varint();
+    const std::uint64_t number = key.value_or(0) >> 3U;
+    WireField field{.number = static_cast<std::uint32_t>(number)};
+    if (number != 0 && number <= UINT32_MAX && readValue(static_cast<unsigned>(*key & 7U), field)) {
+        return field;
     }
     m_rest = start; // what is no field stays, so that the end is known from it
     return std::nullopt;

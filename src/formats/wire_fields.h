@@ -29,6 +29,7 @@ public:
     bool isAtEnd() const { return m_rest.empty(); }
 
 private:
+    bool readValue(unsigned type, WireField& field);
     std::optional<std::uint64_t> varint();
     std::optional<std::uint64_t> fixed(std::size_t size);
     std::optional<std::span<const unsigned char>> sized();

@@ -149,10 +149,11 @@ void WeChatAccount::readLoginInfo()
         return;
     }
     const QByteArray bytes = file.read(kLargest);
-    auto accounts = accountsIn(std::span(reinterpret_cast<const unsigned char*>(bytes.constData()),
-        static_cast<std::size_t>(bytes.size())));
-    for (WeChatName& account : accounts) {
-        m_people.add(std::move(account));
+    const auto accounts =
+        accountsIn(std::span(reinterpret_cast<const unsigned char*>(bytes.constData()),
+            static_cast<std::size_t>(bytes.size())));
+    for (const WeChatName& account : accounts) {
+        m_people.add(account);
     }
 }
 

@@ -91,7 +91,7 @@ void WeChatContacts::readNames(WeChatPeople& people) const
             if (isWeChatRoom(name.user)) {
                 people.addRoom(name.user, roomMembers(row.blobView(ChatRoom)));
             }
-            people.add(std::move(name));
+            people.add(name);
         });
     });
 }

@@ -21,7 +21,7 @@ namespace {
 // clang-format off
 struct FolderRow {
     QLatin1String name;
-    WeChatFolder folder;
+    WeChatFolder folder = WeChatFolder::None;
 };
 constexpr std::array kFolders{
     FolderRow{"Img"_L1,      WeChatFolder::Pictures},

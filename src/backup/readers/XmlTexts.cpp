@@ -7,7 +7,6 @@
 #include <QXmlStreamReader>
 
 #include <array>
-#include <utility>
 #include <vector>
 
 namespace backup {
@@ -18,7 +17,7 @@ constexpr std::size_t kDeepest = 16; // places below that are of no use
 
 struct Entity {
     QLatin1String written;
-    char16_t character;
+    char16_t character = 0;
 };
 // "&amp;" comes last: what it makes is no entity again.
 constexpr std::array kEntities{
@@ -50,21 +49,24 @@ XmlTexts::XmlTexts(const QString& xml)
         if (token == QXmlStreamReader::StartElement && ++depth <= kDeepest) {
             const QString name = reader.qualifiedName().toString();
             open.push_back({open.empty() ? name : open.back().place + QChar(u'/') + name, {}});
-            const auto attributes = reader.attributes();
-            for (const QXmlStreamAttribute& attribute : attributes) {
-                add(open.back().place + QChar(u'@') + attribute.qualifiedName().toString(),
-                    attribute.value().toString());
-            }
+            addAttributes(open.back().place, reader.attributes());
         } else if (token == QXmlStreamReader::Characters && depth <= kDeepest && !open.empty()) {
             open.back().text += reader.text();
         } else if (token == QXmlStreamReader::EndElement && depth-- <= kDeepest) {
-            const OpenElement closed = std::move(open.back());
+            add(open.back().place, open.back().text);
+            m_allText += open.back().text.trimmed() + QChar(u'\n');
             open.pop_back();
-            add(closed.place, closed.text);
-            m_allText += closed.text.trimmed() + QChar(u'\n');
         }
     }
     m_allText = m_allText.simplified();
+}
+
+void XmlTexts::addAttributes(const QString& element, const QXmlStreamAttributes& attributes)
+{
+    for (const QXmlStreamAttribute& attribute : attributes) {
+        add(element + QChar(u'@') + attribute.qualifiedName().toString(),
+            attribute.value().toString());
+    }
 }
 
 QString XmlTexts::firstOf(std::initializer_list<QLatin1String> places) const
@@ -80,9 +82,9 @@ QString XmlTexts::firstOf(std::initializer_list<QLatin1String> places) const
 
 void XmlTexts::add(const QString& place, const QString& text)
 {
-    QString trimmed = text.trimmed();
+    const QString trimmed = text.trimmed();
     if (!trimmed.isEmpty() && !m_texts.contains(place)) {
-        m_texts.insert(place, std::move(trimmed));
+        m_texts.insert(place, trimmed);
     }
 }
 

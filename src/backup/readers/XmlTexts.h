@@ -7,6 +7,8 @@
 #include <QLatin1String>
 #include <initializer_list>
 
+class QXmlStreamAttributes;
+
 namespace backup {
 
 /// The texts and attributes of an XML document by their places: "msg/appmsg/title",
@@ -23,6 +25,7 @@ public:
     const QString& allText() const { return m_allText; }
 
 private:
+    void addAttributes(const QString& element, const QXmlStreamAttributes& attributes);
     void add(const QString& place, const QString& text);
 
     QHash<QString, QString> m_texts;

@@ -40,12 +40,10 @@ void addPhones(Bytes message, int depth, QStringList& phones)
     WireFields fields(message);
     while (const auto field = fields.next()) {
         const QString text = formats::textOf(field->bytes).trimmed();
-        if (isPhone(text)) {
-            if (!phones.contains(text)) {
-                phones.append(text);
-            }
-        } else if (depth > 0) {
+        if (!isPhone(text) && depth > 0) {
             addPhones(field->bytes, depth - 1, phones);
+        } else if (isPhone(text) && !phones.contains(text)) {
+            phones.append(text);
         }
     }
 }
@@ -147,23 +145,22 @@ std::vector<WeChatName> accountsIn(Bytes loginInfo)
     return accounts;
 }
 
-void WeChatPeople::add(WeChatName name)
+void WeChatPeople::add(const WeChatName& name)
 {
     if (name.user.isEmpty() || m_names.contains(name.user)) {
         return;
     }
     m_users.insert(weChatHash(name.user), name.user);
-    const QString user = name.user;
-    m_names.insert(user, std::move(name));
+    m_names.insert(name.user, name);
 }
 
-void WeChatPeople::addRoom(const QString& user, std::vector<WeChatMember> members)
+void WeChatPeople::addRoom(const QString& user, const std::vector<WeChatMember>& members)
 {
     QHash<QString, QString>& names = m_roomNames[user];
     for (const WeChatMember& member : members) {
         names.insert(member.user, member.roomName);
     }
-    m_rooms.insert(user, std::move(members));
+    m_rooms.insert(user, members);
 }
 
 const WeChatName* WeChatPeople::find(const QString& user) const
@@ -175,11 +172,11 @@ const WeChatName* WeChatPeople::find(const QString& user) const
 QString WeChatPeople::shownName(const QString& user) const
 {
     const WeChatName* name = find(user);
-    const QString shown = name == nullptr ? user : name->shown();
+    QString shown = name == nullptr ? user : name->shown();
     if (shown != user || !isWeChatRoom(user)) {
         return shown;
     }
-    const QString members = namesOfMembers(user);
+    QString members = namesOfMembers(user);
     return members.isEmpty() ? shown : members;
 }
 

@@ -61,8 +61,8 @@ std::vector<WeChatName> accountsIn(std::span<const unsigned char> loginInfo);
 class WeChatPeople {
 public:
     /// The first name of a user counts.
-    void add(WeChatName name);
-    void addRoom(const QString& user, std::vector<WeChatMember> members);
+    void add(const WeChatName& name);
+    void addRoom(const QString& user, const std::vector<WeChatMember>& members);
 
     /// Null for somebody unknown.
     const WeChatName* find(const QString& user) const;

@@ -108,7 +108,7 @@ QString noticeText(const QString& message)
     }
     if (trimmed.startsWith(QChar(u'{'))) {
         const QJsonObject object = QJsonDocument::fromJson(trimmed.toUtf8()).object();
-        const QString told = object.value("msgContent"_L1).toString();
+        QString told = object.value("msgContent"_L1).toString();
         if (!told.isEmpty()) {
             return told;
         }

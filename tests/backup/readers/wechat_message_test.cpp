@@ -126,8 +126,8 @@ TEST(WeChatContent, AppMessagesAreTheirTexts)
             app(2001, "<title>Red packet</title><wcpayinfo><receivertitle>Good luck"
                       "</receivertitle></wcpayinfo>"),
             MsgType::Text, "Red packet\nGood luck"},
-        {"pat", 49, app(62, "<title>\"Bo\" tickled \"Ann\"</title>"), MsgType::GroupEvent,
-            "\"Bo\" tickled \"Ann\""},
+        {"pat", 49, app(62, R"(<title>"Bo" tickled "Ann"</title>)"), MsgType::GroupEvent,
+            R"("Bo" tickled "Ann")"},
         {"number that is not known", 49, app(999, "<title>New thing</title>"), MsgType::Text,
             "New thing", Attachments},
         {"nothing to show", 49, app(999, ""), MsgType::GroupEvent, "[Unknown message]"},
