@@ -112,6 +112,11 @@ void WhatsApp::list()
     }
     std::ranges::stable_sort(m_chats, std::ranges::greater(),
         [](const Chat& chat) { return dateOrder(chat.summary.lastDate); });
+    std::vector<qint64> order;
+    for (const Chat& chat : m_chats) {
+        order.push_back(chat.summary.id);
+    }
+    m_rows.setOrder(order);
 }
 
 void WhatsApp::readMembers()
@@ -210,8 +215,7 @@ std::vector<PRWhatsappMsg> WhatsApp::messages(const ChatSummary& chat)
     const WhatsAppChatFacts facts = known != m_chats.end() ? known->facts : WhatsAppChatFacts();
     WhatsAppChatBuilder builder(facts, *m_people, m_members, m_files);
     m_rows.read(
-        chat.id, [&](const formats::Statement& row) { builder.add(row); },
-        [&] { builder.clear(); });
+        chat.id, [&](const WhatsAppRow& row) { builder.add(row); }, [&] { builder.clear(); });
     return builder.take();
 }
 
@@ -240,14 +244,14 @@ std::vector<ChatFile> WhatsApp::filesOf(const Chat& chat, int& missing)
 {
     std::vector<std::pair<WhatsAppOrder, ChatFile>> ordered;
     int missingHere = 0;
-    const auto take = [&](const formats::Statement& row) {
-        if (row.isNull(MediaPath) && row.isNull(MediaThumbnail)) {
+    const auto take = [&](const WhatsAppRow& row) {
+        if (!row.has(WhatsAppText::MediaPath) && !row.has(WhatsAppText::Thumbnail)) {
             return;
         }
         if (auto file = fileOf(row, missingHere)) {
             file->chatTitle = chat.summary.title;
             file->deleted = chat.summary.deleted;
-            ordered.emplace_back(orderOf(row), std::move(*file));
+            ordered.emplace_back(row.numbers.order, std::move(*file));
         }
     };
     m_rows.read(chat.summary.id, take, [&] {
@@ -264,27 +268,27 @@ std::vector<ChatFile> WhatsApp::filesOf(const Chat& chat, int& missing)
     return files;
 }
 
-std::optional<ChatFile> WhatsApp::fileOf(const formats::Statement& row, int& missing) const
+std::optional<ChatFile> WhatsApp::fileOf(const WhatsAppRow& row, int& missing) const
 {
-    const qint64 type = row.integer(MessageType);
+    const int type = row.numbers.type;
     const bool isFile = std::ranges::find(kFileTypes, type) != kFileTypes.end();
-    const QString path = row.text(MediaPath);
+    const QString path = row.text(WhatsAppText::MediaPath);
     if (!isFile && path.isEmpty()) {
         return std::nullopt; // the picture of a link or of a map
     }
     DeviceFile place = m_files.find(path);
     if (place.path.isEmpty()) {
-        place = m_files.find(row.text(MediaThumbnail));
+        place = m_files.find(row.text(WhatsAppText::Thumbnail));
     }
     if (place.path.isEmpty()) {
         missing += path.isEmpty() ? 0 : 1;
         return std::nullopt;
     }
-    constexpr qint64 kDocument = 8;
+    constexpr int kDocument = 8;
     return ChatFile{
-        .name = nameOf(type == kDocument ? row.text(MediaTitle) : QString(), place.path),
+        .name = nameOf(type == kDocument ? row.text(WhatsAppText::Title) : QString(), place.path),
         .place = std::move(place),
-        .date = cocoaDate(row, MessageDate)};
+        .date = row.date()};
 }
 
 void WhatsApp::addLeftOver(const QSet<QString>& taken, std::vector<ChatFile>& found) const

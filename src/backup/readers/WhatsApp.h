@@ -47,7 +47,7 @@ private:
     Chat chatOf(const formats::Statement& session) const;
     QString titleOf(const Chat& chat, const QString& name, qint64 kind) const;
     std::vector<ChatFile> filesOf(const Chat& chat, int& missing);
-    std::optional<ChatFile> fileOf(const formats::Statement& row, int& missing) const;
+    std::optional<ChatFile> fileOf(const WhatsAppRow& row, int& missing) const;
     void addLeftOver(const QSet<QString>& taken, std::vector<ChatFile>& found) const;
 
     OpenedDatabase m_opened;

@@ -8,9 +8,7 @@
 
 #include "backup/readers/event_text.h"
 #include "backup/readers/media_kind.h"
-#include "backup/readers/table_reader.h"
 #include "backup/readers/whatsapp_events.h"
-#include "backup/readers/whatsapp_rows.h"
 #include "backup/readers/whatsapp_text.h"
 #include "platform/literals.h"
 
@@ -19,7 +17,6 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <limits>
 #include <numeric>
 #include <unordered_map>
 #include <utility>
@@ -39,9 +36,6 @@ enum StoredType : int {
     SystemMessage = 10,
     ChannelMessage = 55,
 };
-
-constexpr qint64 kNotSent = 9; // ZMESSAGESTATUS
-constexpr qint64 kForwardedBits = 0x180;
 
 struct TypeRow {
     int stored = 0;
@@ -134,32 +128,7 @@ MsgType kindOfFile(const QString& path)
     }
 }
 
-std::size_t hashOf(std::string_view id)
-{
-    return id.empty() ? 0 : std::hash<std::string_view>()(id);
-}
-
-bool endsWith(std::string_view text, std::string_view end)
-{
-    return text.ends_with(end);
-}
-
-// Through a list, whose copies lie in the chats of those on it.
-bool isOfList(const formats::Statement& row)
-{
-    return endsWith(row.textView(MessageReceiver), "@broadcast")
-           || endsWith(row.textView(MessageSender), "@broadcast");
-}
-
 } // namespace
-
-WhatsAppOrder orderOf(const formats::Statement& row)
-{
-    const auto number = [&](int column) {
-        return row.isNull(column) ? std::numeric_limits<double>::lowest() : row.real(column);
-    };
-    return {.sort = number(MessageSort), .date = number(MessageDate)};
-}
 
 WhatsAppChatBuilder::WhatsAppChatBuilder(const WhatsAppChatFacts& chat,
     const WhatsAppPeople& people, const WhatsAppMembers& members, const WhatsAppFiles& files)
@@ -176,22 +145,22 @@ void WhatsAppChatBuilder::clear()
     m_forwardedOnes.clear();
 }
 
-void WhatsAppChatBuilder::add(const formats::Statement& row)
+void WhatsAppChatBuilder::add(const WhatsAppRow& row)
 {
     m_messages.push_back(messageOf(row));
-    m_order.push_back(orderOf(row));
-    m_stanzas.push_back(hashOf(row.textView(MessageStanza)));
+    m_order.push_back(row.numbers.order);
+    m_stanzas.push_back(row.numbers.stanza);
 }
 
-ChatMessage WhatsAppChatBuilder::messageOf(const formats::Statement& row)
+ChatMessage WhatsAppChatBuilder::messageOf(const WhatsAppRow& row)
 {
-    const TypeRow type = rowOf(row.integer(MessageType));
-    const bool fromMe = row.integer(MessageFromMe) != 0;
+    const TypeRow type = rowOf(row.numbers.type);
+    const bool fromMe = row.numbers.fromMe;
     ChatMessage message{
         .type = static_cast<int>(type.kind),
         .fromMe = fromMe,
-        .sentDone = !fromMe || row.integer(MessageStatus) != kNotSent,
-        .date = cocoaDate(row, MessageDate),
+        .sentDone = !row.numbers.notSent,
+        .date = row.date(),
     };
     if (type.kind == MsgType::GroupEvent) {
         addEvent(row, type.line, message);
@@ -200,7 +169,7 @@ ChatMessage WhatsAppChatBuilder::messageOf(const formats::Statement& row)
     if (!fromMe && !m_chat.isPrivate) {
         message.member = senderOf(row);
     }
-    message.broadcast = m_chat.isBroadcast || isOfList(row);
+    message.broadcast = m_chat.isBroadcast || row.numbers.ofList;
     addContent(row, message);
     if (message.content.isEmpty() && message.media.isEmpty() && type.line != nullptr) {
         message.type = static_cast<int>(MsgType::GroupEvent);
@@ -212,57 +181,61 @@ ChatMessage WhatsAppChatBuilder::messageOf(const formats::Statement& row)
     return message;
 }
 
-void WhatsAppChatBuilder::addContent(const formats::Statement& row, ChatMessage& message)
+void WhatsAppChatBuilder::addContent(const WhatsAppRow& row, ChatMessage& message)
 {
-    const auto type = static_cast<int>(row.integer(MessageType));
-    if (!row.isNull(MessageReceipts)) {
+    const auto type = row.numbers.type;
+    if (row.has(WhatsAppText::Receipts)) {
         addReceipts(row, message);
     }
     if (message.content.isEmpty()) {
         message.content = textOf(row, type);
     }
-    if (!row.isNull(MediaPath) || !row.isNull(MediaThumbnail)) {
+    if (row.has(WhatsAppText::MediaPath) || row.has(WhatsAppText::Thumbnail)) {
         addMedia(row, message);
     }
 }
 
-QString WhatsAppChatBuilder::textOf(const formats::Statement& row, int type) const
+QString WhatsAppChatBuilder::textOf(const WhatsAppRow& row, int type) const
 {
-    QString text = row.text(MessageText);
-    if (row.isNull(MediaId)) {
+    QString text = row.text(WhatsAppText::Text);
+    if (!row.numbers.hasMedia) {
         return text;
     }
     switch (type) {
     case Contacts:
-        return joinedLines({text, cardLines(row.text(MediaCardNames), row.text(MediaCards))});
+        return joinedLines(
+            {text, cardLines(row.text(WhatsAppText::CardNames), row.text(WhatsAppText::Cards))});
     case Place:
-        return joinedLines({text, placeLines(row.text(MediaCardNames), row.text(MediaTitle),
-                                      row.real(MediaLatitude), row.real(MediaLongitude))});
+        return joinedLines(
+            {text, placeLines(row.text(WhatsAppText::CardNames), row.text(WhatsAppText::Title),
+                       row.numbers.latitude, row.numbers.longitude)});
     case DocumentMessage:
-        return joinedLines({row.text(MediaTitle), text});
+        return joinedLines({row.text(WhatsAppText::Title), text});
     case LinkMessage:
-        return text.isEmpty() ? joinedLines({row.text(MediaTitle), row.text(MediaUrl)}) : text;
+        return text.isEmpty()
+                   ? joinedLines({row.text(WhatsAppText::Title), row.text(WhatsAppText::Url)})
+                   : text;
     default:
-        return text.isEmpty() ? row.text(MediaTitle) : text;
+        return text.isEmpty() ? row.text(WhatsAppText::Title) : text;
     }
 }
 
-void WhatsAppChatBuilder::addMedia(const formats::Statement& row, ChatMessage& message) const
+void WhatsAppChatBuilder::addMedia(const WhatsAppRow& row, ChatMessage& message) const
 {
-    const QString path = row.text(MediaPath);
+    const QString path = row.text(WhatsAppText::MediaPath);
     if (message.type == static_cast<int>(MsgType::Text) && !path.isEmpty()) {
         message.type = static_cast<int>(kindOfFile(path));
     }
     message.media = m_files.locate(path);
     if (message.media.isEmpty()) {
-        message.media = m_files.locate(row.text(MediaThumbnail));
+        message.media = m_files.locate(row.text(WhatsAppText::Thumbnail));
     }
 }
 
-void WhatsAppChatBuilder::addReceipts(const formats::Statement& row, ChatMessage& message)
+void WhatsAppChatBuilder::addReceipts(const WhatsAppRow& row, ChatMessage& message)
 {
     const formats::WhatsAppReceipts receipts =
-        formats::whatsAppReceipts(row.blobView(MessageReceipts));
+        formats::whatsAppReceipts(row.bytes(WhatsAppText::Receipts));
     message.drawLike = receipts.reactions > 0;
     message.likeType = message.drawLike ? 1 : 0;
     message.likeCount = receipts.reactions;
@@ -272,15 +245,16 @@ void WhatsAppChatBuilder::addReceipts(const formats::Statement& row, ChatMessage
 }
 
 // What a message says of others: that it was theirs first, or that it answers one.
-void WhatsAppChatBuilder::addRelations(const formats::Statement& row)
+void WhatsAppChatBuilder::addRelations(const WhatsAppRow& row)
 {
-    bool isForwarded = (row.integer(MessageFlags) & kForwardedBits) == kForwardedBits;
-    if (!row.isNull(MediaMetadata)) {
-        formats::WhatsAppMetadata metadata = formats::whatsAppMetadata(row.blobView(MediaMetadata));
+    bool isForwarded = row.numbers.forwarded;
+    if (row.has(WhatsAppText::Metadata)) {
+        formats::WhatsAppMetadata metadata =
+            formats::whatsAppMetadata(row.bytes(WhatsAppText::Metadata));
         isForwarded |= metadata.forwarded;
         if (!metadata.quotedId.empty()) {
             m_quotes.push_back({.message = m_messages.size(),
-                .stanza = hashOf(metadata.quotedId),
+                .stanza = stanzaHash(metadata.quotedId),
                 .sender = std::move(metadata.quotedSender),
                 .text = std::move(metadata.quotedText)});
         }
@@ -290,22 +264,21 @@ void WhatsAppChatBuilder::addRelations(const formats::Statement& row)
     }
 }
 
-void WhatsAppChatBuilder::addEvent(
-    const formats::Statement& row, const char* line, ChatMessage& message)
+void WhatsAppChatBuilder::addEvent(const WhatsAppRow& row, const char* line, ChatMessage& message)
 {
-    const QString text = row.text(MessageText);
+    const QString text = row.text(WhatsAppText::Text);
     const WhatsAppPersons persons = personsOfEvent(text);
     QStringList others;
     for (const QString& other : persons.others) {
         others.append(shownName(other));
     }
     const WhatsAppEvent event{
-        .number = static_cast<int>(row.integer(MessageEvent)),
+        .number = row.numbers.event,
         .actor = message.fromMe ? m_you : actorOf(row, persons.actor),
         .others = others.join(", "_L1),
         .text = text,
     };
-    switch (row.integer(MessageType)) {
+    switch (row.numbers.type) {
     case GroupMessage:
         message.content = groupEventSentence(event);
         break;
@@ -320,26 +293,26 @@ void WhatsAppChatBuilder::addEvent(
     }
 }
 
-QString WhatsAppChatBuilder::senderAddress(const formats::Statement& row) const
+QString WhatsAppChatBuilder::senderAddress(const WhatsAppRow& row) const
 {
-    const auto member = m_members.constFind(row.integer(MessageMember));
+    const auto member = m_members.constFind(row.numbers.member);
     if (member != m_members.cend() && !member->address.isEmpty()) {
         return member->address;
     }
-    QString sender = row.text(MessageSender);
+    QString sender = row.text(WhatsAppText::Sender);
     return isPerson(sender) ? sender : QString();
 }
 
-QString WhatsAppChatBuilder::senderOf(const formats::Statement& row) const
+QString WhatsAppChatBuilder::senderOf(const WhatsAppRow& row) const
 {
     const QString address = senderAddress(row);
     if (address.isEmpty()) {
-        const auto member = m_members.constFind(row.integer(MessageMember));
+        const auto member = m_members.constFind(row.numbers.member);
         return cleanName(member != m_members.cend() && !member->name.isEmpty()
                              ? member->name
-                             : row.text(MessageChosenName));
+                             : row.text(WhatsAppText::ChosenName));
     }
-    return m_people.nameOf(address, row.text(MessageChosenName));
+    return m_people.nameOf(address, row.text(WhatsAppText::ChosenName));
 }
 
 QString WhatsAppChatBuilder::shownName(const QString& address) const
@@ -348,7 +321,7 @@ QString WhatsAppChatBuilder::shownName(const QString& address) const
 }
 
 // Who did what an event tells; `named` by its text.
-QString WhatsAppChatBuilder::actorOf(const formats::Statement& row, const QString& named) const
+QString WhatsAppChatBuilder::actorOf(const WhatsAppRow& row, const QString& named) const
 {
     if (senderAddress(row).isEmpty() && !named.isEmpty()) {
         return shownName(named);
@@ -391,7 +364,7 @@ void WhatsAppChatBuilder::resolveQuotes()
     if (m_quotes.empty()) {
         return;
     }
-    std::unordered_map<std::size_t, std::size_t> places;
+    std::unordered_map<std::uint64_t, std::size_t> places;
     for (const Quote& quote : m_quotes) {
         places.emplace(quote.stanza, m_messages.size());
     }

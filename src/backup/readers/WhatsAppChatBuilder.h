@@ -3,17 +3,14 @@
 
 #include "backup/readers/WhatsAppFiles.h"
 #include "backup/readers/WhatsAppPeople.h"
-#include "formats/sqlite.h"
+#include "backup/readers/whatsapp_row.h"
 #include "formats/whatsapp_data.h"
 #include "model/PRWhatsappItem.h"
 
 #include <QHash>
 #include <QString>
 
-#include <compare>
 #include <cstdint>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace backup {
@@ -32,15 +29,6 @@ struct WhatsAppChatFacts {
     bool isBroadcast = false; ///< a list of people who all get what is sent
 };
 
-/// What a chat sorts its messages by.
-struct WhatsAppOrder {
-    double sort = 0;
-    double date = 0;
-
-    auto operator<=>(const WhatsAppOrder&) const = default;
-};
-WhatsAppOrder orderOf(const formats::Statement& row);
-
 /// Makes the messages of one chat out of rows of `WhatsAppRows`.
 class WhatsAppChatBuilder {
 public:
@@ -48,7 +36,7 @@ public:
     WhatsAppChatBuilder(const WhatsAppChatFacts& chat, const WhatsAppPeople& people,
         const WhatsAppMembers& members, const WhatsAppFiles& files);
 
-    void add(const formats::Statement& row);
+    void add(const WhatsAppRow& row);
     /// Forgets what was added.
     void clear();
 
@@ -59,22 +47,22 @@ private:
     /// A message that answers another one.
     struct Quote {
         std::size_t message = 0;
-        std::size_t stanza = 0; // hash of the other one's id
+        std::uint64_t stanza = 0; // hash of the other one's id
         QString sender;
         QString text; // where the other one is not there
     };
 
-    ChatMessage messageOf(const formats::Statement& row);
-    void addContent(const formats::Statement& row, ChatMessage& message);
-    void addEvent(const formats::Statement& row, const char* line, ChatMessage& message);
-    void addMedia(const formats::Statement& row, ChatMessage& message) const;
-    void addRelations(const formats::Statement& row);
-    void addReceipts(const formats::Statement& row, ChatMessage& message);
-    QString textOf(const formats::Statement& row, int type) const;
-    QString senderOf(const formats::Statement& row) const;
-    QString senderAddress(const formats::Statement& row) const;
+    ChatMessage messageOf(const WhatsAppRow& row);
+    void addContent(const WhatsAppRow& row, ChatMessage& message);
+    void addEvent(const WhatsAppRow& row, const char* line, ChatMessage& message);
+    void addMedia(const WhatsAppRow& row, ChatMessage& message) const;
+    void addRelations(const WhatsAppRow& row);
+    void addReceipts(const WhatsAppRow& row, ChatMessage& message);
+    QString textOf(const WhatsAppRow& row, int type) const;
+    QString senderOf(const WhatsAppRow& row) const;
+    QString senderAddress(const WhatsAppRow& row) const;
     QString shownName(const QString& address) const;
-    QString actorOf(const formats::Statement& row, const QString& named) const;
+    QString actorOf(const WhatsAppRow& row, const QString& named) const;
     QString quoteLine(const Quote& quote, const ChatMessage* quoted) const;
     void addMarks();
     void resolveQuotes();
@@ -87,8 +75,8 @@ private:
     const QString m_you;
 
     std::vector<ChatMessage> m_messages;
-    std::vector<WhatsAppOrder> m_order; // of each message
-    std::vector<std::size_t> m_stanzas; // hashes of their ids; 0 for none
+    std::vector<WhatsAppOrder> m_order;   // of each message
+    std::vector<std::uint64_t> m_stanzas; // hashes of their ids; 0 for none
     std::vector<Quote> m_quotes;
     std::vector<std::size_t> m_forwardedOnes;
 };

@@ -15,39 +15,8 @@ namespace backup {
 
 namespace {
 
-struct ColumnRow {
-    char table = 'm';
-    QLatin1String name;
-};
-
-// In the order of WhatsAppColumn.
-constexpr std::array kColumns{
-    ColumnRow{'m', "ZISFROMME"_L1},
-    ColumnRow{'m', "ZMESSAGETYPE"_L1},
-    ColumnRow{'m', "ZGROUPEVENTTYPE"_L1},
-    ColumnRow{'m', "ZMESSAGEDATE"_L1},
-    ColumnRow{'m', "ZSORT"_L1},
-    ColumnRow{'m', "ZTEXT"_L1},
-    ColumnRow{'m', "ZFLAGS"_L1},
-    ColumnRow{'m', "ZMESSAGESTATUS"_L1},
-    ColumnRow{'m', "ZGROUPMEMBER"_L1},
-    ColumnRow{'m', "ZFROMJID"_L1},
-    ColumnRow{'m', "ZTOJID"_L1},
-    ColumnRow{'m', "ZPUSHNAME"_L1},
-    ColumnRow{'m', "ZSTANZAID"_L1},
-    ColumnRow{'i', "Z_PK"_L1},
-    ColumnRow{'i', "ZMEDIALOCALPATH"_L1},
-    ColumnRow{'i', "ZXMPPTHUMBPATH"_L1},
-    ColumnRow{'i', "ZTITLE"_L1},
-    ColumnRow{'i', "ZVCARDNAME"_L1},
-    ColumnRow{'i', "ZVCARDSTRING"_L1},
-    ColumnRow{'i', "ZLATITUDE"_L1},
-    ColumnRow{'i', "ZLONGITUDE"_L1},
-    ColumnRow{'i', "ZMEDIAURL"_L1},
-    ColumnRow{'i', "ZMETADATA"_L1},
-    ColumnRow{'r', "ZRECEIPTINFO"_L1},
-};
-static_assert(kColumns.size() == MessageReceipts + 1);
+// Who has asked for this many chats in a row will ask for the rest as well.
+constexpr int kStepsBeforeScan = 3;
 
 constexpr QLatin1String kMessages = "ZWAMESSAGE"_L1;
 
@@ -61,15 +30,16 @@ constexpr std::array kJoins{
     JoinRow{'r', "ZWAMESSAGEINFO"_L1, "ZMESSAGEINFO"_L1},
 };
 
-QString columnName(char table, QLatin1String name)
+QString columnName(char table, const QString& name)
 {
     return QChar::fromLatin1(table) + "."_L1 + name;
 }
 
 } // namespace
 
-WhatsAppRows::WhatsAppRows(const formats::Database& database, const TableReader& reader)
-    : m_database(database), m_reader(reader), m_byIndex(hasIndex())
+WhatsAppRows::WhatsAppRows(
+    const formats::Database& database, const TableReader& reader, std::size_t batchRows)
+    : m_database(database), m_reader(reader), m_batchRows(batchRows), m_byIndex(hasIndex())
 {
 }
 
@@ -99,12 +69,13 @@ QString WhatsAppRows::select(Joins joins, const QString& condition) const
                              : columnName(join.table, "ZMESSAGE"_L1) + "=m.Z_PK"_L1);
     }
     QStringList selected;
-    for (const ColumnRow& column : kColumns) {
-        selected.append(available[column.table].contains(column.name)
-                            ? columnName(column.table, column.name)
-                            : QStringLiteral("NULL"));
+    for (const WhatsAppColumn& column : whatsAppColumns()) {
+        const QString name = QString::fromLatin1(column.name);
+        selected.append(available[column.table].contains(name) ? columnName(column.table, name)
+                                                               : QStringLiteral("NULL"));
     }
-    return "SELECT "_L1 + selected.join(QChar(u',')) + from + " WHERE "_L1 + condition;
+    return "SELECT "_L1 + selected.join(QChar(u',')) + from
+           + (condition.isEmpty() ? QString() : " WHERE "_L1 + condition);
 }
 
 std::optional<formats::Statement> WhatsAppRows::prepare(Joins joins, const QString& condition) const
@@ -116,29 +87,38 @@ std::optional<formats::Statement> WhatsAppRows::prepare(Joins joins, const QStri
     return std::move(*query);
 }
 
-std::map<qint64, qint64> WhatsAppRows::counts()
+const std::map<qint64, qint64>& WhatsAppRows::counts()
 {
-    std::map<qint64, qint64> found;
     if (m_byIndex) {
         auto query = m_database.prepare("SELECT ifnull(ZCHATSESSION,-1),count(*) FROM ZWAMESSAGE"
                                         " GROUP BY ZCHATSESSION"_L1);
         while (query && query->next()) {
-            found[query->integer(0)] += query->integer(1);
+            m_counts[query->integer(0)] += query->integer(1);
         }
         m_byIndex = query && !query->failed();
     }
     if (!m_byIndex) {
         listIds();
-        found.clear();
+        m_counts.clear();
         for (const Place& place : m_ids) {
-            ++found[place.chat];
+            ++m_counts[place.chat];
         }
     }
-    return found;
+    return m_counts;
+}
+
+void WhatsAppRows::setOrder(const std::vector<qint64>& chats)
+{
+    for (const qint64 chat : chats) {
+        m_places.emplace(chat, m_places.size());
+    }
 }
 
 void WhatsAppRows::read(qint64 chat, const Take& take, const std::function<void()>& again)
 {
+    if (readByScan(chat, take)) {
+        return;
+    }
     if (m_byIndex && readByIndex(chat, take)) {
         return;
     }
@@ -148,6 +128,46 @@ void WhatsAppRows::read(qint64 chat, const Take& take, const std::function<void(
         again();
     }
     readByIds(chat, take);
+}
+
+bool WhatsAppRows::readByScan(qint64 chat, const Take& take)
+{
+    const auto place = m_places.find(chat);
+    if (place == m_places.end()) {
+        return false;
+    }
+    m_steps = place->second == m_next ? m_steps + 1 : 0;
+    m_next = place->second + 1;
+    if (!m_packed && m_mayScan && m_steps >= kStepsBeforeScan) {
+        m_mayScan = scan();
+    }
+    return m_packed
+           && m_packed->read(place->second, [&](std::string_view bytes) { take(unpacked(bytes)); });
+}
+
+// False where the table is damaged or the disk is full: then each chat is read for itself.
+bool WhatsAppRows::scan()
+{
+    std::vector<std::size_t> counts(m_places.size());
+    for (const auto& [chat, place] : m_places) {
+        counts[place] = static_cast<std::size_t>(m_counts[chat]);
+    }
+    auto query = prepare(Joins::All, QString());
+    m_packed.emplace(counts, m_batchRows);
+    std::string bytes;
+    while (query->next()) {
+        const WhatsAppRow row = whatsAppRow(*query);
+        if (const auto place = m_places.find(row.numbers.chat); place != m_places.end()) {
+            bytes.clear();
+            pack(row, bytes);
+            m_packed->add(place->second, bytes);
+        }
+    }
+    const bool isComplete = query->handle() != nullptr && !query->failed() && m_packed->finish();
+    if (!isComplete) {
+        m_packed.reset();
+    }
+    return isComplete;
 }
 
 bool WhatsAppRows::readByIndex(qint64 chat, const Take& take)
@@ -165,7 +185,7 @@ bool WhatsAppRows::readByIndex(qint64 chat, const Take& take)
         query.bind(1, chat);
     }
     while (query.next()) {
-        take(query);
+        take(whatsAppRow(query));
     }
     return !query.failed();
 }
@@ -194,7 +214,7 @@ void WhatsAppRows::readByIds(qint64 chat, const Take& take)
         for (auto* query : {&*m_ofId, &*m_ofIdAlone}) {
             query->reset();
             if (query->bind(1, place->id).next()) {
-                take(*query);
+                take(whatsAppRow(*query));
                 break;
             }
         }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "backup/readers/PackedRows.h"
 #include "backup/readers/table_reader.h"
+#include "backup/readers/whatsapp_row.h"
 #include "formats/sqlite.h"
 
 #include <QString>
@@ -14,47 +16,24 @@
 
 namespace backup {
 
-/// Columns of a message's row as `WhatsAppRows` gives it. What a release lacks is NULL.
-enum WhatsAppColumn : int {
-    MessageFromMe,
-    MessageType,
-    MessageEvent,
-    MessageDate,
-    MessageSort,
-    MessageText,
-    MessageFlags,
-    MessageStatus,
-    MessageMember,
-    MessageSender,
-    MessageReceiver,
-    MessageChosenName,
-    MessageStanza,
-    MediaId,
-    MediaPath,
-    MediaThumbnail,
-    MediaTitle,
-    MediaCardNames,
-    MediaCards,
-    MediaLatitude,
-    MediaLongitude,
-    MediaUrl,
-    MediaMetadata,
-    MessageReceipts,
-};
-
-/// The messages of a store, chat by chat, each row with what other tables hold of it.
+/// The messages of a store, chat by chat. Those of one chat lie scattered over their table: who
+/// walks the chats in order is served by one scan of it, however often they walk; who asks here and
+/// there, by the index of each.
 class WhatsAppRows {
 public:
     /// Messages of no chat are those of this one.
     static constexpr qint64 kNoChat = -1;
 
-    /// Both outlive the object.
-    WhatsAppRows(const formats::Database& database, const TableReader& reader);
+    /// Both outlive the object. `batchRows`: more than that many are put aside on disk.
+    WhatsAppRows(const formats::Database& database, const TableReader& reader,
+        std::size_t batchRows = PackedRows::kBatchRows);
 
     /// How many messages each chat has.
-    std::map<qint64, qint64> counts();
+    const std::map<qint64, qint64>& counts();
+    /// In which order they will be walked.
+    void setOrder(const std::vector<qint64>& chats);
 
-    using Take = std::function<void(const formats::Statement&)>;
+    using Take = std::function<void(const WhatsAppRow&)>;
 
     /// Gives each row of a chat to `take`, in no order. Around a damaged page they come once more:
     /// then `again` is called before the first one.
@@ -66,6 +45,8 @@ private:
     QString select(Joins joins, const QString& condition) const;
     std::optional<formats::Statement> prepare(Joins joins, const QString& condition) const;
     bool hasIndex() const;
+    bool readByScan(qint64 chat, const Take& take);
+    bool scan();
     bool readByIndex(qint64 chat, const Take& take);
     void readByIds(qint64 chat, const Take& take);
     void listIds();
@@ -79,6 +60,14 @@ private:
 
     const formats::Database& m_database;
     const TableReader& m_reader;
+    std::size_t m_batchRows;
+    std::map<qint64, qint64> m_counts;
+    std::map<qint64, std::size_t> m_places; // in the order of the walk
+    std::size_t m_next = 0;                 // the one after the last asked for
+    int m_steps = 0;                        // in that order, without a jump
+    bool m_mayScan = true;
+    std::optional<PackedRows> m_packed; // once the table is scanned
+
     bool m_byIndex = false; // for want of one, or for its damage, by the ids of all messages
     std::optional<formats::Statement> m_ofChat;
     std::optional<formats::Statement> m_ofNoChat;
