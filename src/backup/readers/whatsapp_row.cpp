@@ -80,6 +80,27 @@ bool isList(std::string_view address)
     return address.ends_with("@broadcast") && address != "status@broadcast";
 }
 
+// The texts from `begin` on, before `end`.
+void readTexts(
+    const formats::Statement& query, WhatsAppText begin, WhatsAppText end, WhatsAppRow& row)
+{
+    for (auto which = std::size_t(begin); which < std::size_t(end); ++which) {
+        row.texts.at(which) = query.textView(FirstText + static_cast<int>(which));
+    }
+}
+
+// What most rows have and nobody asks for: the group as the sender, the owner's own name.
+void dropUnused(WhatsAppRow& row)
+{
+    std::string_view& sender = row.texts.at(std::size_t(WhatsAppText::Sender));
+    if (sender.ends_with("@g.us")) {
+        sender = {};
+    }
+    if (row.numbers.fromMe) {
+        row.texts.at(std::size_t(WhatsAppText::ChosenName)) = {};
+    }
+}
+
 template <typename T> void append(std::string& bytes, const T& value)
 {
     bytes.append(reinterpret_cast<const char*>(&value), sizeof value);
@@ -127,8 +148,6 @@ WhatsAppRow whatsAppRow(const formats::Statement& query)
 {
     WhatsAppRow row{
         .numbers = {.order = {.sort = orderNumber(query, Sort), .date = orderNumber(query, Date)},
-            .latitude = query.real(Latitude),
-            .longitude = query.real(Longitude),
             .chat = query.isNull(ChatColumn) ? -1 : query.integer(ChatColumn),
             .member = query.integer(Member),
             .stanza = stanzaHash(query.textView(Stanza)),
@@ -136,15 +155,20 @@ WhatsAppRow whatsAppRow(const formats::Statement& query)
             .event = static_cast<std::int32_t>(query.integer(Event)),
             .fromMe = query.integer(FromMe) != 0,
             .forwarded = (query.integer(Flags) & kForwardedBits) == kForwardedBits,
-            .ofList = isList(query.textView(Receiver)),
             .hasMedia = !query.isNull(MediaId)},
         .texts = {},
     };
-    row.numbers.notSent = row.numbers.fromMe && query.integer(Status) == kNotSent;
-    for (std::size_t which = 0; which < kWhatsAppTexts; ++which) {
-        row.texts.at(which) = query.textView(FirstText + static_cast<int>(which));
+    WhatsAppNumbers& numbers = row.numbers;
+    numbers.notSent = numbers.fromMe && query.integer(Status) == kNotSent;
+    readTexts(query, WhatsAppText::Text, WhatsAppText::MediaPath, row);
+    if (numbers.hasMedia) {
+        numbers.latitude = query.real(Latitude);
+        numbers.longitude = query.real(Longitude);
+        readTexts(query, WhatsAppText::MediaPath, WhatsAppText::Receipts, row);
     }
-    row.numbers.ofList = row.numbers.ofList || isList(row.view(WhatsAppText::Sender));
+    row.texts.back() = query.textView(FirstText + static_cast<int>(WhatsAppText::Receipts));
+    numbers.ofList = isList(row.view(WhatsAppText::Sender)) || isList(query.textView(Receiver));
+    dropUnused(row);
     return row;
 }
 
