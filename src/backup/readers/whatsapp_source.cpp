@@ -3,6 +3,7 @@
 
 #include "backup/readers/ChatStore.h"
 #include "backup/readers/WhatsApp.h"
+#include "backup/readers/open_beside.h"
 
 #include <memory>
 #include <optional>
@@ -45,20 +46,16 @@ bool isSuperseded(const FoundDatabase& found, const OpenedBackup& opened)
     return isOld ? others >= own : others > own;
 }
 
-// Of one account on the device, and of a loose store.
-WhatsAppPeople::OpenBeside openBeside(const QString& domain, OpenedBackup& opened)
+// Of this account: the application's twin has files of the same names.
+WhatsAppPeople::OpenBeside openerOf(const QString& domain, OpenedBackup& opened)
 {
     return [domain, &files = *opened.files, &notices = *opened.notices](
                const QString& name) -> std::optional<formats::Result<OpenedDatabase>> {
-        if (const auto* device = dynamic_cast<const BackupFolder*>(&files)) {
-            // The application's twin has files of the same names.
-            return device->find(domain, name) ? device->openDatabase(domain, name) : std::nullopt;
-        }
-        const QString found = files.locate(domain, name);
-        if (found.isEmpty()) {
+        const auto* device = dynamic_cast<const BackupFolder*>(&files);
+        if (device != nullptr && !device->find(domain, name)) {
             return std::nullopt;
         }
-        return openWithLog(found, files.locate(domain, name + "-wal"_L1), notices);
+        return openBeside(files, domain, name, notices);
     };
 }
 
@@ -68,7 +65,7 @@ void addAccount(FoundDatabase found, ChatTypes types, OpenedBackup& opened)
         return;
     }
     WhatsAppPlace place{
-        .domain = found.domain, .name = found.name, .openBeside = openBeside(found.domain, opened)};
+        .domain = found.domain, .name = found.name, .openBeside = openerOf(found.domain, opened)};
     addChatApp(std::make_unique<WhatsApp>(std::move(found.database), std::move(place), found.names,
                    *opened.files, *opened.notices),
         types, opened);

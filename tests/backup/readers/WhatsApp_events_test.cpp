@@ -78,8 +78,8 @@ TEST_F(WhatsAppTest, EventsOfAGroupAreSentences)
     int id = 0;
     for (const EventRow& each : rows) {
         const QString columns = "ZMESSAGETYPE, ZGROUPEVENTTYPE, ZGROUPMEMBER";
-        statements << message(++id, 2, each.text, columns, QString("6, %1, 22").arg(each.number))
-                   << message(++id, 2, each.text, columns, QString("6, %1, NULL").arg(each.number));
+        statements << message(++id, 2, each.text, columns, QString("6, %1, 22").arg(each.number));
+        statements << message(++id, 2, each.text, columns, QString("6, %1, NULL").arg(each.number));
         expected << QString("6 < ") + each.line << QString("6 < ") + each.nobody;
     }
     open(statements);

@@ -40,8 +40,8 @@ TEST_F(WhatsAppMediaTest, MediaIsTheFileElseItsThumbnail)
 
 TEST_F(WhatsAppMediaTest, UnknownMessageMayCarryAFile)
 {
-    for (const QString& name : {"a.jpg", "b.mp4", "c.opus", "d.pdf", "e.xyz"}) {
-        add("x/" + name);
+    for (const char* name : {"a.jpg", "b.mp4", "c.opus", "d.pdf", "e.xyz"}) {
+        add(QString("x/") + name);
     }
     const auto carrying = [](int id, int type, const QString& name) {
         return media(id, 1, type, "ZMEDIALOCALPATH", "'Media/x/" + name + "'");
