@@ -28,6 +28,7 @@ MESSAGES, NOTES = 0, 27
 TABLES = {3, 27, 29, 30}
 BOOKMARKS = {33, 34}
 CHATS, CHAT_CONTACTS = 5, 16
+SAMPLE_CHATS = {9, 11, 14, 17}
 
 # Opens page after page in a frame and reports what it sees.
 WATCHER = """<!DOCTYPE html><meta charset="utf-8"><body><script>
@@ -209,7 +210,7 @@ def expected(data_set, folder):
     data_type, records = data_set["dataType"], data_set.get("records", [])
     if data_type == MESSAGES:
         return expected_of_messages(records, folder)
-    if data_type == CHATS:
+    if data_type == CHATS or data_type in SAMPLE_CHATS:
         return expected_of_chats(records, folder)
     if data_type == CHAT_CONTACTS:
         return expected_of_chat_contacts(records)
@@ -270,7 +271,8 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         work = Path(folder)
         pages = exported_pages(
-            program, backup, work / "backup", {MESSAGES} | TABLES | BOOKMARKS)
+            program, backup, work / "backup",
+            {MESSAGES, CHAT_CONTACTS} | SAMPLE_CHATS | TABLES | BOOKMARKS)
         pages |= exported_pages(program, records, work / "records", {CHATS, CHAT_CONTACTS})
         all_seen, missing, said = look_at(browser, work, [quote(page) for page in pages])
         for seen in all_seen:
