@@ -164,26 +164,28 @@ void WeChatAccount::findChats()
         const QStringList tables =
             m_messages[database].opened.database.tables().filter(chatTable());
         for (const QString& table : tables) {
-            if (const auto lastDate = lastDateIn(database, table)) {
-                const std::size_t index = known.value(table, m_chats.size());
-                known.insert(table, index);
-                addTable(table, index, database, *lastDate);
-            }
+            addTable(table, database, known);
         }
     }
 }
 
 void WeChatAccount::addTable(
-    const QString& table, std::size_t index, std::size_t database, const QDateTime& lastDate)
+    const QString& table, std::size_t database, QHash<QString, std::size_t>& known)
 {
+    const auto lastDate = lastDateIn(database, table);
+    if (!lastDate) {
+        return;
+    }
+    const std::size_t index = known.value(table, m_chats.size());
     if (index == m_chats.size()) {
+        known.insert(table, index);
         const QString hash = chatTable().match(table).captured(1);
         m_chats.push_back({.hash = hash, .table = table, .user = m_people.userOf(hash)});
     }
     Chat& chat = m_chats[index];
     chat.databases.push_back(database);
-    if (dateOrder(lastDate) > dateOrder(chat.lastDate)) {
-        chat.lastDate = lastDate;
+    if (dateOrder(*lastDate) > dateOrder(chat.lastDate)) {
+        chat.lastDate = *lastDate;
     }
 }
 

@@ -7,6 +7,7 @@
 #include "backup/readers/WeChatMedia.h"
 #include "backup/readers/wechat_contact.h"
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 
@@ -54,8 +55,7 @@ private:
     void readLoginInfo();
     std::optional<NamedDatabase> openBeside(const QString& path) const;
     void findChats();
-    void addTable(
-        const QString& table, std::size_t index, std::size_t database, const QDateTime& lastDate);
+    void addTable(const QString& table, std::size_t database, QHash<QString, std::size_t>& known);
     std::optional<QDateTime> lastDateIn(std::size_t database, const QString& table) const;
     void findDeletedChats();
     void addDeletedChats(const NamedDatabase& session, QSet<QString>& tables);

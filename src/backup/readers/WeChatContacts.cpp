@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 namespace backup {
@@ -55,7 +56,7 @@ QString headImage(const QString& user, std::span<const unsigned char> blob,
     const WeChatContacts::Listing& listing, const QSet<QString>& pictures)
 {
     const QString path = listing.pictures + QChar(u'/') + weChatHash(user) + ".pic"_L1;
-    const QString found =
+    QString found =
         pictures.contains(path) ? listing.files.locate(kWeChatGroupDomain, path) : QString();
     if (!found.isEmpty()) {
         return found;
@@ -63,6 +64,17 @@ QString headImage(const QString& user, std::span<const unsigned char> blob,
     const QString large = formats::wireText(blob, 3);
     QString address = large.isEmpty() ? formats::wireText(blob, 2) : large;
     return address.startsWith("http"_L1) ? address : QString();
+}
+
+void addName(const formats::Statement& row, WeChatPeople& people)
+{
+    WeChatName name{.user = row.text(User)};
+    readRemark(row.blobView(Remark), name);
+    name.phones = phonesIn(row.blobView(Social));
+    if (isWeChatRoom(name.user)) {
+        people.addRoom(name.user, roomMembers(row.blobView(ChatRoom)));
+    }
+    people.add(name);
 }
 
 std::unique_ptr<PRAbstractItem> record(PRWeiChatContact::Content content)
@@ -83,16 +95,9 @@ bool WeChatContacts::isContacts(const formats::Database& database)
 
 void WeChatContacts::readNames(WeChatPeople& people) const
 {
+    const auto take = [&people](const formats::Statement& row) { addName(row, people); };
     forEachTable([&](const TableReader& reader, QLatin1String table) {
-        reader.read(table, wantedColumns(), [&people](const formats::Statement& row) {
-            WeChatName name{.user = row.text(User)};
-            readRemark(row.blobView(Remark), name);
-            name.phones = phonesIn(row.blobView(Social));
-            if (isWeChatRoom(name.user)) {
-                people.addRoom(name.user, roomMembers(row.blobView(ChatRoom)));
-            }
-            people.add(name);
-        });
+        reader.read(table, wantedColumns(), take);
     });
 }
 
@@ -101,10 +106,11 @@ void WeChatContacts::forEachTable(
 {
     for (const NamedDatabase& database : m_databases) {
         const TableReader reader(database.opened.database, database.name, m_notices);
-        for (const QLatin1String table : kTables) {
-            if (reader.database().hasTable(table)) {
-                read(reader, table);
-            }
+        const auto isThere = [&](QLatin1String table) { return reader.database().hasTable(table); };
+        std::vector<QLatin1String> tables;
+        std::ranges::copy_if(kTables, std::back_inserter(tables), isThere);
+        for (const QLatin1String table : tables) {
+            read(reader, table);
         }
     }
 }

@@ -288,7 +288,9 @@ WeChatContent unknown(const QString& message)
 WeChatContent weChatContent(qint64 type, const QString& message)
 {
     const auto* const row = std::ranges::find(kTypes, type, &TypeRow::type);
-    WeChatContent content = row == kTypes.end() ? unknown(message) : row->content(message);
+    // Some app messages have types of their own.
+    const auto of = message.contains("<appmsg"_L1) ? appMessage : unknown;
+    WeChatContent content = row == kTypes.end() ? of(message) : row->content(message);
     const bool isBare = content.kind == MsgType::Text || content.kind == MsgType::ContactCard;
     if (isBare && content.text.isEmpty() && type != 1) {
         content.text = unknown(message).text; // not of the shape that its type has

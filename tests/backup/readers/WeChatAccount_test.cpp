@@ -297,6 +297,28 @@ TEST_F(WeChatTest, MissingColumnsReadAsEmpty)
     EXPECT_FALSE(conversation(0).contents().front().msgDate().isValid());
 }
 
+TEST_F(WeChatTest, DamagedPageLosesItsOwnMessages)
+{
+    std::vector<Message> sent;
+    for (int id = 1; id <= 2000; ++id) {
+        sent.push_back(
+            {.id = id, .text = QString("Message %1, long enough to fill pages").arg(id)});
+    }
+    QByteArray bytes = databaseBytes(chat("wxid_a", sent)).file;
+    const int damaged = bytes.size() / 4096 / 2;
+    bytes.replace(damaged * 4096, 4096, QByteArray(4096, '\xFF'));
+    builder().add(kDomain, account() + "/DB/MM.sqlite", bytes);
+    openFolder();
+    ASSERT_EQ(lines(kChats).size(), 1);
+    const QStringList shown = conversationLines(0);
+    EXPECT_GT(shown.size(), 1800);
+    EXPECT_LT(shown.size(), 2000);
+    EXPECT_EQ(shown.first(), "0 < Message 1, long enough to fill pages");
+    EXPECT_EQ(shown.last(), "0 < Message 2000, long enough to fill pages");
+    EXPECT_EQ(files(kFiles), QStringList());
+    EXPECT_EQ(notices("MM.sqlite").size(), 1);
+}
+
 TEST_F(WeChatTest, WithoutTheApplicationThereIsNoSet)
 {
     builder().add("HomeDomain", "Documents/x/DB/MM.sqlite", "x");

@@ -202,6 +202,8 @@ TEST(WeChatContent, CallsAndNoticesAreLines)
         {"another kind of line", 10002,
             "<sysmsg type=\"x\"><x><text>Some words</text></x></sysmsg>", GroupEvent, "Some words"},
         {"type that is not known, with a text", 77, " words ", Text, "words"},
+        {"type that is not known, of an app", 436207665, app(2001, "<title>Red packet</title>"),
+            Text, "Red packet"},
         {"type that is not known, XML", 77, "<msg><a>1</a></msg>", GroupEvent, "[Unknown message]"},
     });
 }
