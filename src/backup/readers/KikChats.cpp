@@ -25,6 +25,8 @@ namespace backup {
 
 namespace {
 
+constexpr QLatin1String kMembers = R"(Z_\d+MEMBERS)"_L1; // a table, and a column of it
+
 enum Column : int { Type = 2, Body };
 enum MessageType : int { Received = 1, Sent = 2, Notice = 3, OtherNotice = 4 };
 
@@ -93,8 +95,7 @@ std::vector<TableChats::StoredChat> KikChats::readChats()
         names.insert(row.integer(2), title);
         chats.push_back({.summary = {.id = row.integer(2), .title = title, .name = userName}});
     });
-    const auto members =
-        readJoin(reader(), findJoin(database(), "Z_\\d+MEMBERS"_L1, {}, "Z_\\d+MEMBERS"_L1));
+    const auto members = readJoin(reader(), findJoin(database(), kMembers, {}, kMembers));
     for (StoredChat& chat : chats) {
         const QVector<qint64> group = members.value(chat.summary.id);
         chat.isGroup = !group.isEmpty();

@@ -36,6 +36,8 @@ constexpr QLatin1String kPreviews = "Message Thumbnails/"_L1;
 constexpr std::array kDomains{
     "AppDomainGroup-group.com.linecorp.line"_L1, "AppDomain-jp.naver.line"_L1};
 
+constexpr QLatin1String kMembers = R"(Z_\d+MEMBERS)"_L1; // a table, and a column of it
+
 enum ContentType : int {
     Text = 0,
     Picture = 1,
@@ -240,8 +242,8 @@ void LineChats::readGroups()
 
 void LineChats::readMembers(QLatin1String entity, const QHash<qint64, QString>& mids)
 {
-    const auto members = readJoin(reader(),
-        findJoin(database(), "Z_\\d+MEMBERS"_L1, "Z_\\d+.*"_L1 + entity, "Z_\\d+MEMBERS"_L1));
+    const auto members =
+        readJoin(reader(), findJoin(database(), kMembers, R"(Z_\d+.*)"_L1 + entity, kMembers));
     for (auto row = members.begin(); row != members.end(); ++row) {
         QStringList& group = m_groups[mids.value(row.key())].members;
         for (const qint64 member : row.value()) {
@@ -337,11 +339,8 @@ void LineChats::listMedia()
     const QString directory = accountDirectory();
     QStringList domains{place().domain};
     if (!directory.isEmpty()) {
-        for (const QLatin1String domain : kDomains) {
-            if (domain != place().domain) {
-                domains.append(domain);
-            }
-        }
+        domains += QStringList(kDomains.begin(), kDomains.end());
+        domains.removeDuplicates();
     }
     // The oldest releases have no directory for the account.
     const bool isAnywhere = directory.isEmpty() && place().path.contains(QChar(u'/'));

@@ -159,27 +159,32 @@ struct TableChats::FoundFile {
     ChatFile file;
 };
 
+// The files of one message that are on the device.
+void TableChats::addFiles(const formats::Statement& row, std::vector<FoundFile>& found)
+{
+    const qint64 id = row.integer(Chat);
+    const StoredChat chat = chatOf(id);
+    const QDateTime date = m_dateOf(row, Date);
+    StoredMessage stored = readMessage(row, chat);
+    for (StoredFile& file : stored.files) {
+        if (!file.place.path.isEmpty()) {
+            found.push_back({id, date,
+                {.name = std::move(file.name),
+                    .chatTitle = chat.summary.title,
+                    .deleted = chat.summary.deleted,
+                    .place = std::move(file.place),
+                    .date = date}});
+        }
+    }
+}
+
 std::vector<ChatFile> TableChats::files()
 {
     prepare();
     std::vector<FoundFile> found;
     m_rows.readAll([&](const formats::Statement& row) {
-        if (!canHaveFile(row)) {
-            return;
-        }
-        const qint64 id = row.integer(Chat);
-        const StoredChat chat = chatOf(id);
-        StoredMessage stored = readMessage(row, chat);
-        const QDateTime date = m_dateOf(row, Date);
-        for (StoredFile& file : stored.files) {
-            if (!file.place.path.isEmpty()) {
-                found.push_back({id, date,
-                    {.name = std::move(file.name),
-                        .chatTitle = chat.summary.title,
-                        .deleted = chat.summary.deleted,
-                        .place = std::move(file.place),
-                        .date = date}});
-            }
+        if (canHaveFile(row)) {
+            addFiles(row, found);
         }
     });
     sortByDate(found);

@@ -75,6 +75,7 @@ private:
 
     void prepare();
     const StoredChat& chatOf(qint64 id);
+    void addFiles(const formats::Statement& row, std::vector<FoundFile>& found);
     void add(const StoredMessage& stored, std::vector<ChatMessage>& messages) const;
 
     NamedDatabase m_database;

@@ -246,8 +246,8 @@ std::vector<TableChats::StoredChat> ViberChats::readChats()
     readPlaces();
     readCalls();
     const auto members =
-        readJoin(reader(), findJoin(database(), "Z_\\d+.*"_L1, ".*CONVERSATIONS\\d*"_L1,
-                               ".*(PHONENUMINDEXES|MEMBERS)\\d*"_L1));
+        readJoin(reader(), findJoin(database(), R"(Z_\d+.*)"_L1, R"(.*CONVERSATIONS\d*)"_L1,
+                               R"(.*(PHONENUMINDEXES|MEMBERS)\d*)"_L1));
     std::vector<StoredChat> chats;
     const std::array<WantedColumn, 4> columns{
         {{"ZNAME"_L1}, {"ZGROUPID"_L1}, {"ZINTERLOCUTOR"_L1}, {"ZBEINGDELETED"_L1}}};
