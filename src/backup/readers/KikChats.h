@@ -24,7 +24,7 @@ private:
     void readAttachments();
     void listMedia();
     StoredFile fileOf(const QString& content);
-    StoredFile described(const DeviceFile& place) const;
+    StoredFile described(const DeviceFile& file) const;
 
     QHash<qint64, QStringList> m_attachments; // names of the files of a message
     ChatMedia m_media;

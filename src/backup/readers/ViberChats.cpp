@@ -375,22 +375,28 @@ qint64 ViberChats::partnerOfMessage(qint64 message) const
     return isRead && chat->integer(0) != 0 ? chat->integer(0) : sender;
 }
 
+// Who it was, as far as Viber's own list does not tell.
+void ViberChats::completeCall(ViberCall& listed) const
+{
+    Call& call = listed.call;
+    if (listed.message == 0) {
+        call.storedName = m_book.value(shownPhone(call.addresses.value(0)));
+        return;
+    }
+    const Person person = m_people.value(partnerOfMessage(listed.message));
+    call.storedName = person.name;
+    if (call.addresses.isEmpty() && !person.phone.isEmpty()) {
+        call.addresses.append(person.phone);
+    }
+}
+
 RecordList ViberChats::calls()
 {
     readPeople();
     std::vector<Call> calls;
-    for (ViberCall& viberCall : readViberCalls(reader())) {
-        Call& call = viberCall.call;
-        if (viberCall.message != 0) {
-            const Person person = m_people.value(partnerOfMessage(viberCall.message));
-            call.storedName = person.name;
-            if (call.addresses.isEmpty() && !person.phone.isEmpty()) {
-                call.addresses.append(person.phone);
-            }
-        } else {
-            call.storedName = m_book.value(shownPhone(call.addresses.value(0)));
-        }
-        calls.push_back(std::move(call));
+    for (ViberCall& listed : readViberCalls(reader())) {
+        completeCall(listed);
+        calls.push_back(std::move(listed.call));
     }
     return callRecords(std::move(calls), m_names);
 }

@@ -49,6 +49,7 @@ private:
     void readAttachments();
     void readPlaces();
     void readCalls();
+    void completeCall(ViberCall& listed) const;
     RecordList calls();
     qint64 partnerOfMessage(qint64 message) const;
     StoredChat chatOf(const QString& name, bool isGroup, const QVector<qint64>& members) const;
