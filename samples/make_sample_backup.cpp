@@ -14,6 +14,7 @@
 //   line.json           the chats of LINE, and of the two other applications
 //   viber.json
 //   kik.json
+//   whatsapp.json       the chats of WhatsApp and of WhatsApp Business
 //   media/              files that messages carry, beside those that this program draws
 //   schema/             the definitions of the databases
 //
@@ -34,6 +35,7 @@
 #include "maker/ViberStore.h"
 #include "maker/VoiceRecordings.h"
 #include "maker/WeChat.h"
+#include "maker/WhatsAppStore.h"
 #include "maker/common.h"
 #include "maker/media.h"
 #include "maker/plist_writer.h"
@@ -195,6 +197,25 @@ void writeChats(const Paths& paths, BackupWriter& backup)
         backup, backup, paths.media());
 }
 
+// The accounts of WhatsApp and of WhatsApp Business, each with the same people.
+void writeWhatsApp(const Paths& paths, BackupWriter& backup)
+{
+    const QJsonObject source = sample::readJson(paths.sources + "/whatsapp.json");
+    for (const QJsonValue& account : sample::entriesOf(source["accounts"])) {
+        const QString domain = account["domain"].toString();
+        Database chats(paths.scratch + "/" + domain + ".chats", paths.schema("ChatStorage"),
+            Database::Journal::WriteAheadLog);
+        Database contacts(paths.scratch + "/" + domain + ".contacts", paths.schema("ContactsV2"),
+            Database::Journal::WriteAheadLog);
+        sample::WhatsAppStore(chats, contacts, backup, paths.media())
+            .write(account.toObject(), source["people"]);
+        chats.checkpoint();
+        contacts.checkpoint();
+        backup.addFile(domain, "ChatStorage.sqlite", chats.mainFile());
+        backup.addFile(domain, "ContactsV2.sqlite", contacts.mainFile());
+    }
+}
+
 void writeOtherEntries(const QJsonObject& phone, BackupWriter& backup)
 {
     for (const QJsonValue& entry : sample::entriesOf(phone["directories"])) {
@@ -252,6 +273,7 @@ void makeBackup(const Paths& paths)
     writeMedia(paths, backup);
     writeWeChat(paths, backup);
     writeChats(paths, backup);
+    writeWhatsApp(paths, backup);
     writeOtherEntries(phone, backup);
     backup.writeIndex(paths.schema("Manifest"));
 
