@@ -42,8 +42,8 @@ TEST_F(SampleWeChatTest, ConversationHasAllKindsOfMessages)
             "house.",
             "1 > [Sticker]", "5 < Taipei 101\n台北市信義區信義路五段7號\n25.033964, 121.56447",
             "3 <  = ...", "6 > Call: Call duration 12:08", "2 >  = ...",
-            "0 < Oolong for beginners\nSeven leaves, seven waters\n"
-            "https://tea.example.com/oolong?lang=en&page=2 = ...",
+            QString("0 < Oolong for beginners\nSeven leaves, seven waters\n")
+                + "https://tea.example.com/oolong?lang=en&page=2 = ...",
             "0 > WeChat Transfer\n¥88.00\nfor the moon cakes", "6 < \"陳美玲\" recalled a message",
             "0 < 新年快樂！恭喜發財 🧧 <龍年>", "0 >! Happy New Year of the Dragon! 🐉",
             "0 > Happy New Year of the Dragon! 🐉"}));
@@ -60,8 +60,8 @@ TEST_F(SampleWeChatTest, RoomHasSendersAndEvents)
             "0 > @Yuki perfect, I bring cherry cake 🍒", "8 < [陳美玲] Vocabulary 第三課.pdf = ...",
             "1 >  = ...", "6 < \"Yuki\" tickled \"Anna\"", "1 < [Yuki]  = ...",
             "4 < [Wang Wei] 林师傅裁缝\nwxid_tailor9lin000",
-            "0 < [Wang Wei] > Anna (Deutsch): @Yuki perfect, I bring cherry cake 🍒\n"
-            "The tailor wants the recipe!",
+            QString("0 < [Wang Wei] > Anna (Deutsch): @Yuki perfect, I bring cherry cake 🍒\n")
+                + "The tailor wants the recipe!",
             "6 < \"Yuki\" received your Red Packet"}));
 }
 
