@@ -38,8 +38,7 @@ TEST_F(SampleWeChatTest, ConversationHasAllKindsOfMessages)
             "0 < Hi Anna! 很高兴认识你 😊", "0 > 你好！Sorry, my Chinese is still slow 🐢",
             "0 < > Anna: 你好！Sorry, my Chinese is still slow 🐢\n慢慢來！We start with tea.",
             "1 <  = ...",
-            "0 < Mid-Autumn Festival! 中秋節快樂 🥮\nThis is the view from my parents' "
-            "house.",
+            "0 < Mid-Autumn Festival! 中秋節快樂 🥮\nThe view from my parents' house.",
             "1 > [Sticker]", "5 < Taipei 101\n台北市信義區信義路五段7號\n25.033964, 121.56447",
             "3 <  = ...", "6 > Call: Call duration 12:08", "2 >  = ...",
             QString("0 < Oolong for beginners\nSeven leaves, seven waters\n")
