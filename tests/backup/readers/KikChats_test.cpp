@@ -20,12 +20,12 @@ const QStringList kSchema{
     R"(CREATE TABLE ZKIKMESSAGE (Z_PK INTEGER PRIMARY KEY, ZTYPE INTEGER, ZUSER INTEGER,
         ZTIMESTAMP TIMESTAMP, ZRECEIVEDTIMESTAMP TIMESTAMP, ZBODY VARCHAR))",
     "CREATE INDEX ZKIKMESSAGE_ZUSER_INDEX ON ZKIKMESSAGE (ZUSER)",
-    "CREATE TABLE ZKIKUSER (Z_PK INTEGER PRIMARY KEY, ZDISPLAYNAME VARCHAR, ZUSERNAME VARCHAR,"
-    " ZJID VARCHAR)",
+    R"(CREATE TABLE ZKIKUSER (Z_PK INTEGER PRIMARY KEY, ZDISPLAYNAME VARCHAR, ZUSERNAME VARCHAR,
+            ZJID VARCHAR))",
     "CREATE TABLE ZKIKATTACHMENT (Z_PK INTEGER PRIMARY KEY, ZMESSAGE INTEGER, ZCONTENT VARCHAR)",
     "CREATE TABLE Z_4MEMBERS (Z_4GROUPS INTEGER, Z_4MEMBERS INTEGER)",
-    "INSERT INTO ZKIKUSER VALUES (1, 'Mia', 'mia_87', 'j1'), (2, 'Skate park', NULL, 'j2'),"
-    " (3, NULL, 'jo', 'j3')",
+    R"(INSERT INTO ZKIKUSER VALUES (1, 'Mia', 'mia_87', 'j1'), (2, 'Skate park', NULL, 'j2'),
+            (3, NULL, 'jo', 'j3'))",
     "INSERT INTO Z_4MEMBERS VALUES (2, 1), (2, 3)"};
 
 QString message(int chat, int type, const QString& body, int second = 0)
@@ -103,8 +103,8 @@ TEST_F(KikChatsTest, FirstBytesTellWhatAFileIs)
         .add(kDomain, kAccount + "attachments/eee", kJpeg);
     openWith({message(1, 1, "'Look'"), message(1, 2, "NULL", 1), message(1, 1, "NULL", 2),
         message(1, 1, "NULL", 3),
-        "INSERT INTO ZKIKATTACHMENT (ZMESSAGE, ZCONTENT) VALUES (1, 'aaa'), (2, 'bbb'), (3, 'ccc'),"
-        " (4, 'ddd'), (1, 'bbb')"});
+        R"(INSERT INTO ZKIKATTACHMENT (ZMESSAGE, ZCONTENT) VALUES (1, 'aaa'), (2, 'bbb'), (3, 'ccc'),
+            (4, 'ddd'), (1, 'bbb'))"});
     const QString jpeg = QString::fromUtf8(kJpeg);
     const QString film = QString::fromUtf8(kFilm);
     EXPECT_EQ(

@@ -22,8 +22,8 @@ const QStringList kSchema{
     R"(CREATE TABLE ZUSER (Z_PK INTEGER PRIMARY KEY, ZMID VARCHAR, ZNAME VARCHAR,
         ZCUSTOMNAME VARCHAR, ZADDRESSBOOKNAME VARCHAR))",
     "CREATE TABLE ZGROUP (Z_PK INTEGER PRIMARY KEY, ZID VARCHAR, ZNAME VARCHAR)",
-    "CREATE TABLE ZCONTACT (Z_PK INTEGER PRIMARY KEY, ZMID VARCHAR, ZNAME VARCHAR,"
-    " ZPHONENUMBER VARCHAR)",
+    R"(CREATE TABLE ZCONTACT (Z_PK INTEGER PRIMARY KEY, ZMID VARCHAR, ZNAME VARCHAR,
+            ZPHONENUMBER VARCHAR))",
     "CREATE TABLE Z_3MEMBERS (Z_3GROUPS INTEGER, Z_9MEMBERS INTEGER)",
     "INSERT INTO ZUSER (Z_PK, ZMID, ZNAME) VALUES (1, 'ua', 'Ken'), (2, 'ub', 'Aoi')",
     "INSERT INTO ZCHAT VALUES (1, 0, 'ua'), (2, 2, 'cx')",
@@ -38,7 +38,7 @@ QString message(const QString& columns, const QString& values)
 QString text(int chat, int second = 1)
 {
     return message("ZCHAT, ZSENDER, ZTIMESTAMP, ZCONTENTTYPE, ZTEXT",
-        QString("%1, 1, %2, 0, 'Hi'").arg(chat).arg(1'700'000'000'000 + second * 1000));
+        QString("%1, 1, %2, 0, 'Hi'").arg(chat).arg(1'700'000'000'000 + second * 1000LL));
 }
 
 class LineChatsTest : public ChatTest {
@@ -295,8 +295,8 @@ TEST_F(LineChatsTest, OlderPlaceIsLeftAloneWhereTheNewerOneHasMessages)
 TEST_F(LineChatsTest, ReleaseWithFewColumnsIsRead)
 {
     builder().addDatabase(kGroupDomain, kAccount + "Messages/Line.sqlite",
-        {"CREATE TABLE ZMESSAGE (Z_PK INTEGER PRIMARY KEY, ZCHAT, ZSENDER, ZTIMESTAMP,"
-         " ZCONTENTTYPE, ZTEXT)",
+        {R"(CREATE TABLE ZMESSAGE (Z_PK INTEGER PRIMARY KEY, ZCHAT, ZSENDER, ZTIMESTAMP,
+            ZCONTENTTYPE, ZTEXT))",
             "CREATE TABLE ZCHAT (Z_PK INTEGER PRIMARY KEY, ZMID)",
             "CREATE TABLE ZUSER (Z_PK INTEGER PRIMARY KEY, ZMID, ZNAME)",
             "INSERT INTO ZUSER VALUES (1, 'ua', 'Ken')", "INSERT INTO ZCHAT VALUES (1, 'ua')",
