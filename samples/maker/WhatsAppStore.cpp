@@ -284,8 +284,8 @@ QString WhatsAppStore::addFile(
     const QString& file, const QString& owner, const QString& at, const QString& ending)
 {
     const QString id = uuidFor("whatsapp file " + at).toLower();
-    const QString path = "Media/" + owner + "/" + id.left(1) + "/" + id.mid(1, 1) + "/" + id + "."
-                         + (ending.isEmpty() ? QFileInfo(file).suffix() : ending);
+    QString path = "Media/" + owner + "/" + id.left(1) + "/" + id.mid(1, 1) + "/" + id + "."
+                   + (ending.isEmpty() ? QFileInfo(file).suffix() : ending);
     m_backup.addFile(m_domain, "Message/" + path, media(file, m_media));
     return path;
 }

@@ -102,7 +102,7 @@ bool PackedRows::load(std::size_t batch)
 void PackedRows::sortOut(std::size_t batch)
 {
     const auto [first, end] =
-        std::ranges::equal_range(m_batchOf, static_cast<std::uint32_t>(batch));
+        std::equal_range(m_batchOf.begin(), m_batchOf.end(), static_cast<std::uint32_t>(batch));
     m_firstChat = static_cast<std::size_t>(first - m_batchOf.begin());
     m_places.assign(static_cast<std::size_t>(end - first), {});
     for (std::size_t place = 0; place < m_bytes.size();) {

@@ -17,7 +17,7 @@ namespace backup {
 /// The files have no name and are gone with the object.
 class PackedRows {
 public:
-    static constexpr std::size_t kBatchRows = 100'000;
+    static constexpr std::size_t kBatchRows = 25'000;
 
     /// `counts`: how many rows each chat has at most.
     explicit PackedRows(const std::vector<std::size_t>& counts, std::size_t batchRows = kBatchRows);

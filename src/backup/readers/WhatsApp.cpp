@@ -137,7 +137,7 @@ void WhatsApp::readMembers()
         if (row.isNull(IsActive) || row.integer(IsActive) != 0) {
             m_memberAddresses[row.integer(Session)].append(member.address);
         }
-        m_members.insert(row.integer(Id), std::move(member));
+        m_members.insert(row.integer(Id), member);
     });
 }
 
@@ -259,7 +259,7 @@ std::vector<ChatFile> WhatsApp::filesOf(const Chat& chat, int& missing)
         missingHere = 0;
     });
     missing += missingHere;
-    std::ranges::stable_sort(ordered, {}, &std::pair<WhatsAppOrder, ChatFile>::first);
+    std::ranges::stable_sort(ordered, {}, [](const auto& each) { return each.first.key(); });
     std::vector<ChatFile> files;
     files.reserve(ordered.size());
     for (auto& [order, file] : ordered) {
@@ -285,10 +285,9 @@ std::optional<ChatFile> WhatsApp::fileOf(const WhatsAppRow& row, int& missing) c
         return std::nullopt;
     }
     constexpr int kDocument = 8;
-    return ChatFile{
-        .name = nameOf(type == kDocument ? row.text(WhatsAppText::Title) : QString(), place.path),
-        .place = std::move(place),
-        .date = row.date()};
+    QString name =
+        nameOf(type == kDocument ? row.text(WhatsAppText::Title) : QString(), place.path);
+    return ChatFile{.name = std::move(name), .place = std::move(place), .date = row.date()};
 }
 
 void WhatsApp::addLeftOver(const QSet<QString>& taken, std::vector<ChatFile>& found) const

@@ -389,12 +389,12 @@ void WhatsAppChatBuilder::resolveQuotes()
 // Rows mostly come in the order of the chat.
 void WhatsAppChatBuilder::sort()
 {
-    if (std::ranges::is_sorted(m_order)) {
+    if (std::ranges::is_sorted(m_order, {}, &WhatsAppOrder::key)) {
         return;
     }
     std::vector<std::size_t> indexes(m_order.size());
     std::iota(indexes.begin(), indexes.end(), std::size_t{0});
-    std::ranges::stable_sort(indexes, {}, [&](std::size_t index) { return m_order[index]; });
+    std::ranges::stable_sort(indexes, {}, [&](std::size_t index) { return m_order[index].key(); });
     std::vector<ChatMessage> sorted;
     sorted.reserve(m_messages.size());
     for (const std::size_t index : indexes) {

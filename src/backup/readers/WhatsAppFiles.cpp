@@ -62,15 +62,13 @@ bool WhatsAppFiles::has(const QString& path) const
 DeviceFile WhatsAppFiles::find(const QString& named) const
 {
     const int begin = named.startsWith(QChar(u'/')) ? 1 : 0;
-    if (named.size() > begin) {
-        for (const QLatin1String root : kRoots) {
-            QString path = root + named.mid(begin);
-            if (has(path)) {
-                return {.domain = m_domain, .path = std::move(path)};
-            }
-        }
+    if (named.size() == begin) {
+        return {};
     }
-    return {};
+    const auto* const root = std::ranges::find_if(
+        kRoots, [&](QLatin1String each) { return has(each + named.mid(begin)); });
+    return root != kRoots.end() ? DeviceFile{.domain = m_domain, .path = *root + named.mid(begin)}
+                                : DeviceFile();
 }
 
 QString WhatsAppFiles::locate(const QString& named) const

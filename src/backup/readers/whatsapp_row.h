@@ -7,11 +7,11 @@
 #include <QString>
 
 #include <array>
-#include <compare>
 #include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace backup {
 
@@ -36,7 +36,8 @@ struct WhatsAppOrder {
     double sort = 0;
     double date = 0; ///< seconds since 2001
 
-    auto operator<=>(const WhatsAppOrder&) const = default;
+    /// To compare by.
+    std::pair<double, double> key() const { return {sort, date}; }
 };
 
 /// The numbers of a message.

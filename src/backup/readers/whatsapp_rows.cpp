@@ -199,7 +199,7 @@ void WhatsAppRows::listIds()
     m_reader.read(kMessages, columns, [this](const formats::Statement& row) {
         m_ids.push_back({.chat = row.isNull(0) ? kNoChat : row.integer(0), .id = row.integer(1)});
     });
-    std::ranges::sort(m_ids);
+    std::ranges::sort(m_ids, {}, &Place::key);
 }
 
 void WhatsAppRows::readByIds(qint64 chat, const Take& take)
@@ -211,14 +211,22 @@ void WhatsAppRows::readByIds(qint64 chat, const Take& take)
     }
     const auto first = std::ranges::lower_bound(m_ids, chat, {}, &Place::chat);
     for (auto place = first; place != m_ids.end() && place->chat == chat; ++place) {
-        for (auto* query : {&*m_ofId, &*m_ofIdAlone}) {
-            query->reset();
-            if (query->bind(1, place->id).next()) {
-                take(whatsAppRow(*query));
-                break;
-            }
+        if (!readById(*m_ofId, place->id, take)) {
+            readById(*m_ofIdAlone, place->id, take);
         }
     }
+}
+
+bool WhatsAppRows::readById(formats::Statement& query, qint64 id, const Take& take)
+{
+    query.reset();
+    const bool isThere = query.bind(1, id).next();
+    if (isThere) {
+        take(whatsAppRow(query));
+    } else if (query.failed()) {
+        m_reader.noteDamage();
+    }
+    return isThere;
 }
 
 } // namespace backup

@@ -49,13 +49,14 @@ private:
     bool scan();
     bool readByIndex(qint64 chat, const Take& take);
     void readByIds(qint64 chat, const Take& take);
+    bool readById(formats::Statement& query, qint64 id, const Take& take);
     void listIds();
 
     struct Place {
         qint64 chat = 0;
         qint64 id = 0;
 
-        auto operator<=>(const Place&) const = default;
+        std::pair<qint64, qint64> key() const { return {chat, id}; }
     };
 
     const formats::Database& m_database;

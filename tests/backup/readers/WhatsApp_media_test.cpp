@@ -3,8 +3,6 @@
 
 namespace {
 
-using message_bytes::field;
-
 class WhatsAppMediaTest : public WhatsAppTest {
 protected:
     // A file below Message/Media whose contents are its own name.

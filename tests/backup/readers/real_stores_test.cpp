@@ -4,6 +4,7 @@
 #include "backup/readers/OpenedBackup.h"
 #include "formats/sqlite.h"
 #include "model/PRSMSItem.h"
+#include "model/PRWhatsappItem.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -127,6 +128,25 @@ TEST_F(RealStores, BackupWithMostPayloadsAbsentGivesWhatIsThere)
         GTEST_SKIP() << "there is no " << m_file.toStdString();
     }
     EXPECT_EQ(allTexts(*m_opened).size(), 1);
+}
+
+TEST_F(RealStores, ChatsOfABackupHaveTheirMessages)
+{
+    if (!open("backups/ios-14.3-manifest-mostly-absent")) {
+        GTEST_SKIP() << "there is no " << m_file.toStdString();
+    }
+    const PRData* set = m_opened->records.getPRData(5);
+    ASSERT_NE(set, nullptr);
+    QStringList texts;
+    for (int row = 0; row < set->count(1); ++row) {
+        const auto* chat = dynamic_cast<const PRWhatsappItem*>(set->at(row, true));
+        ASSERT_NE(chat, nullptr);
+        for (const PRWhatsappMsg& message : chat->detailContent()->contents()) {
+            texts.append(chat->value(0) + ": " + message.content());
+        }
+    }
+    EXPECT_EQ(texts, QStringList({"Example Group: Welcome", "Alice Example: Hi",
+                         "Alice Example: Check https://example.org/news"}));
 }
 
 TEST_F(RealStores, HandMadeStoreIsRead)
