@@ -44,10 +44,14 @@ QString userOf(const QString& address)
 }
 
 // "491715550101" of "Message/Media/491715550101@s.whatsapp.net/a/b/x.jpg", of
-// "Media/Profile/491715550101-1700000000.jpg" too
+// "Media/Profile/491715550101-1700000000.jpg" too; empty for files of nobody
 QString userOfPath(const QString& path)
 {
-    QString rest = path.mid(path.indexOf(kMedia) + kMedia.size());
+    const int begin = path.indexOf(kMedia);
+    if (begin < 0) {
+        return {};
+    }
+    QString rest = path.mid(begin + kMedia.size());
     if (!rest.startsWith(kProfile)) {
         return userOf(rest.section(QChar(u'/'), 0, 0));
     }
@@ -294,7 +298,9 @@ void WhatsApp::addLeftOver(const QSet<QString>& taken, std::vector<ChatFile>& fo
 {
     QHash<QString, const Chat*> chats;
     for (const Chat& chat : m_chats) {
-        chats.insert(userOf(chat.address), &chat);
+        if (!chat.address.isEmpty()) {
+            chats.insert(userOf(chat.address), &chat);
+        }
     }
     std::vector<DeviceFile> files = m_files.all();
     for (DeviceFile& file : files) {

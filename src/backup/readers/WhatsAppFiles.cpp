@@ -3,8 +3,10 @@
 //   Message/Media/<address>/a/b/<uuid>.thumb a JPEG, whatever it shows
 //   Media/Profile/<number>-<seconds>.jpg     and .thumb
 //   Library/Media/...                        oldest releases
+//   stickers/..., current_wallpaper.jpg      of no message
 #include "backup/readers/WhatsAppFiles.h"
 
+#include "backup/readers/media_kind.h"
 #include "platform/literals.h"
 
 #include <algorithm>
@@ -24,6 +26,17 @@ uint hashOf(const QString& path)
     return qHash(path.normalized(QString::NormalizationForm_C));
 }
 
+// Sent files of any kind; besides stickers, wallpapers and the like, but no data of the program.
+bool isOfPeople(const QString& path)
+{
+    if (path.contains("Media/"_L1)) {
+        return true;
+    }
+    const MediaKind kind = mediaKindOf(path);
+    return !path.startsWith("Library/"_L1) && kind != MediaKind::Other
+           && kind != MediaKind::Document;
+}
+
 } // namespace
 
 bool isThumbnail(const QString& path)
@@ -38,7 +51,11 @@ WhatsAppFiles::WhatsAppFiles(const FileLocator& files, QString domain)
 
 QStringList WhatsAppFiles::paths() const
 {
-    QStringList found;
+    QStringList found = m_files.filesBelow(m_domain, QString());
+    if (!found.isEmpty()) {
+        return found;
+    }
+    // Beside a loose store, where any file could lie.
     for (const QLatin1String directory : kDirectories) {
         found += m_files.filesBelow(m_domain, directory);
     }
@@ -81,7 +98,7 @@ std::vector<DeviceFile> WhatsAppFiles::all() const
 {
     std::vector<DeviceFile> found;
     for (const QString& path : paths()) {
-        if (path.contains("Media/"_L1)) { // Message/ holds the application's own databases too
+        if (isOfPeople(path)) {
             found.push_back({.domain = m_domain, .path = path});
         }
     }

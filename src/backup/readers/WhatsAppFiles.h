@@ -22,7 +22,7 @@ public:
     /// Its path on this computer; empty where it is missing.
     QString locate(const QString& named) const;
 
-    /// All that people sent and that their profiles show, in order.
+    /// All that people sent and that their profiles show, stickers and wallpapers, in order.
     std::vector<DeviceFile> all() const;
 
 private:

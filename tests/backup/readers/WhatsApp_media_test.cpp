@@ -140,17 +140,21 @@ TEST_F(WhatsAppMediaTest, FilesThatNoMessageNamesFollow)
         .add(kDomain, "Media/Profile/1203-1700000000.jpg", "group photo")
         .add(kDomain, "Media/Profile/1203-1700000000.thumb", "its likeness")
         .add(kDomain, "Media/Profile/Photo.jpg", "own")
+        .add(kDomain, "current_wallpaper.jpg", "wallpaper")
         .add(kDomain, "Message/other.sqlite", "no file of anybody")
+        .add(kDomain, "Library/Caches/x.jpg", "nor this")
         .add(kDomain, "Library/Preferences/x.plist", "neither");
     open(chats() << chat(3, "999@s.whatsapp.net", "Gone", 0, 1) << message(1, 1, "Hi")
                  << message(2, 2, "Hi") << message(3, 3, "Hi"));
+    // By their paths; those of nobody share a directory.
+    const QString nobody = file(kFiles, 1).record().parent.value_or("none");
     EXPECT_EQ(files(kFiles),
         QStringList(
-            {"left.jpg < Ben Carter = left.jpg", "of a stranger.jpg < Gone = of a stranger.jpg",
-                "1203-1700000000.jpg < Choir = group photo",
-                "Photo.jpg < " + file(kFiles, 3).record().parent.value_or("none") + " = own"}));
-    EXPECT_EQ(lines(kFiles)[1], "x of a stranger.jpg | Gone");
-    EXPECT_EQ(lines(kFiles)[3], "Photo.jpg | ");
+            {"1203-1700000000.jpg < Choir = group photo", "Photo.jpg < " + nobody + " = own",
+                "left.jpg < Ben Carter = left.jpg", "of a stranger.jpg < Gone = of a stranger.jpg",
+                "current_wallpaper.jpg < " + nobody + " = wallpaper"}));
+    EXPECT_EQ(lines(kFiles)[1], "Photo.jpg | ");
+    EXPECT_EQ(lines(kFiles)[3], "x of a stranger.jpg | Gone");
 }
 
 } // namespace

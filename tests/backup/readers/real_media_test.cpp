@@ -85,7 +85,7 @@ TEST_F(RealMedia, ManifestWithoutPayloadsStillListsWhatItNames)
     EXPECT_TRUE(photos.contains("IMG_0011.MOV")) << "the film of a Live Photo";
     EXPECT_EQ(column(23, 0), QStringList());
     EXPECT_EQ(column(22, 0), QStringList());
-    EXPECT_EQ(column(24, 0).filter("current_wallpaper.jpg").size(), 1);
+    EXPECT_EQ(column(6, 0).filter("current_wallpaper.jpg").size(), 1);
 }
 
 } // namespace
