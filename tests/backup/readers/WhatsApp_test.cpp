@@ -315,6 +315,35 @@ TEST_F(WhatsAppTest, DamagedPageLosesOnlyItsRows)
     EXPECT_EQ(notices("damaged").size(), 1);
 }
 
+TEST_F(WhatsAppTest, WalkThroughADamagedStoreLosesOnlyItsRows)
+{
+    constexpr int kMany = 10;
+    QStringList statements = tables();
+    const QString text(400, 'x');
+    for (int id = 1; id <= kMany; ++id) {
+        statements << chat(id, QString("4930%1@s.whatsapp.net").arg(id), "P", 0);
+    }
+    for (int id = 1; id <= 200; ++id) {
+        statements << message(id, id % kMany + 1, QString("%1 ").arg(id) + text);
+    }
+    QByteArray file = databaseBytes(statements).file;
+    const int place = file.indexOf("100 " + text.toUtf8());
+    ASSERT_GT(place, 0);
+    file.replace(place / 4096 * 4096, 4096, QByteArray(4096, '\xFF'));
+    openFile(file);
+    for (int round = 0; round < 2; ++round) {
+        QStringList all;
+        for (int row = 0; row < kMany; ++row) {
+            all += messages(row);
+        }
+        EXPECT_GE(all.size(), 180);
+        EXPECT_LT(all.size(), 200);
+        EXPECT_EQ(QSet<QString>(all.begin(), all.end()).size(), all.size());
+        EXPECT_TRUE(all.contains("0 < 200 " + text));
+    }
+    EXPECT_EQ(notices("damaged").size(), 1);
+}
+
 TEST_F(WhatsAppTest, WalkThroughManyChatsFindsTheSameAsAJump)
 {
     constexpr int kMany = 12;
