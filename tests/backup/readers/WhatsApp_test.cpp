@@ -242,7 +242,19 @@ TEST_F(WhatsAppTest, OnlyTheBusinessAccountMayBeThere)
     EXPECT_EQ(messages(0, kBusinessChats), QStringList("0 < shop"));
 }
 
-TEST_F(WhatsAppTest, OfTwoStoresOfOneAccountTheFullerOneIsRead)
+class WhatsAppStoresTest : public WhatsAppTest {
+protected:
+    static QStringList storeWith(int count, const QString& text)
+    {
+        QStringList statements = tables() + chats();
+        for (int id = 1; id <= count; ++id) {
+            statements << message(id, 1, text);
+        }
+        return statements;
+    }
+};
+
+TEST_F(WhatsAppStoresTest, OfTwoStoresOfOneAccountTheFullerOneIsRead)
 {
     struct Case {
         const char* what = nullptr;
@@ -257,19 +269,12 @@ TEST_F(WhatsAppTest, OfTwoStoresOfOneAccountTheFullerOneIsRead)
         SCOPED_TRACE(each.what);
         const QString folder = m_directory.filePath(QString("backup%1").arg(++number));
         BackupBuilder phone(folder);
-        const auto store = [](int count, const QString& text) {
-            QStringList statements = tables() + chats();
-            for (int id = 1; id <= count; ++id) {
-                statements << message(id, 1, text);
-            }
-            return statements;
-        };
         if (each.newMessages > 0) {
-            phone.addDatabase(kDomain, kStore, store(each.newMessages, "new"));
+            phone.addDatabase(kDomain, kStore, storeWith(each.newMessages, "new"));
         }
         phone
             .addDatabase("AppDomain-net.whatsapp.WhatsApp", "Documents/ChatStorage.sqlite",
-                store(each.oldMessages, "old"))
+                storeWith(each.oldMessages, "old"))
             .finish();
         take(backup::openBackupFolder(folder));
         EXPECT_EQ(column(kChats, 0), QStringList("Ben Carter"));
@@ -280,8 +285,8 @@ TEST_F(WhatsAppTest, OfTwoStoresOfOneAccountTheFullerOneIsRead)
 TEST_F(WhatsAppTest, StoreMayHaveFewColumnsAndTables)
 {
     openFile(QStringList{"CREATE TABLE ZWACHATSESSION (Z_PK INTEGER PRIMARY KEY, ZCONTACTJID TEXT)",
-        "CREATE TABLE ZWAMESSAGE (Z_PK INTEGER PRIMARY KEY, ZCHATSESSION INTEGER, ZTEXT TEXT,"
-        " ZMESSAGEDATE REAL)",
+        R"(CREATE TABLE ZWAMESSAGE (Z_PK INTEGER PRIMARY KEY, ZCHATSESSION INTEGER,
+            ZTEXT TEXT, ZMESSAGEDATE REAL))",
         "CREATE TABLE ZWAMEDIAITEM (Z_PK INTEGER PRIMARY KEY, ZMESSAGE INTEGER, ZTITLE TEXT)",
         "INSERT INTO ZWACHATSESSION VALUES (1, '491715550101@s.whatsapp.net')",
         "INSERT INTO ZWAMESSAGE VALUES (1, 1, 'later', 20), (2, 1, 'earlier', 10), (3, 1, NULL, "
