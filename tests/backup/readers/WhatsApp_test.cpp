@@ -289,8 +289,8 @@ TEST_F(WhatsAppTest, StoreMayHaveFewColumnsAndTables)
             ZTEXT TEXT, ZMESSAGEDATE REAL))",
         "CREATE TABLE ZWAMEDIAITEM (Z_PK INTEGER PRIMARY KEY, ZMESSAGE INTEGER, ZTITLE TEXT)",
         "INSERT INTO ZWACHATSESSION VALUES (1, '491715550101@s.whatsapp.net')",
-        "INSERT INTO ZWAMESSAGE VALUES (1, 1, 'later', 20), (2, 1, 'earlier', 10), (3, 1, NULL, "
-        "30)",
+        "INSERT INTO ZWAMESSAGE VALUES (1, 1, 'later', 20), (2, 1, 'earlier', 10)",
+        "INSERT INTO ZWAMESSAGE VALUES (3, 1, NULL, 30)",
         "INSERT INTO ZWAMEDIAITEM VALUES (7, 3, 'joined from the other side')"});
     EXPECT_EQ(lines(kChats), QStringList("+491715550101 | +491715550101 | +491715550101"));
     EXPECT_EQ(
