@@ -21,7 +21,7 @@ namespace {
 constexpr QLatin1String kAppDomains = "AppDomain"_L1;
 
 // clang-format off
-/// Apps whose files are in a category of their own, once a reader has filled that.
+/// Apps whose files are all in a category of their own, once a reader has filled that.
 struct OwnedRow {
     QLatin1String app; ///< part of the domain
     int dataType = 0;
@@ -29,15 +29,10 @@ struct OwnedRow {
 constexpr std::array kOwned{
     OwnedRow{"group.com.apple.notes"_L1,             28},
     OwnedRow{"group.com.apple.VoiceMemos.shared"_L1, 31},
-    OwnedRow{"net.whatsapp.WhatsAppSMB"_L1,          8},
-    OwnedRow{"net.whatsapp.WhatsApp.shared"_L1,      6},
-    OwnedRow{"jp.naver.line"_L1,                     10},
-    OwnedRow{"com.linecorp.line"_L1,                 10},
-    OwnedRow{"viber"_L1,                             12},
-    OwnedRow{"com.tencent.xin"_L1,                   15},
-    OwnedRow{"kik.chat"_L1,                          18},
-    OwnedRow{"com.facebook.Messenger"_L1,            20},
 };
+
+// The files that came with messages of chats: other ones of the same apps belong to nobody.
+constexpr std::array kChatFiles{6, 8, 10, 12, 15, 18, 20};
 
 // What an app keeps for itself.
 constexpr std::array kPrivate{
@@ -81,25 +76,36 @@ QString appOf(const QString& domain)
     return domain.mid(domain.indexOf(QChar(u'-')) + 1);
 }
 
+QString shownPlace(const QString& domain, const QString& path)
+{
+    return domain + QChar(u':') + path;
+}
+
 QString directoryOf(const QString& path)
 {
     return path.left(std::max(0, path.lastIndexOf(QChar(u'/'))));
 }
 
-} // namespace
-
-AppFiles::AppFiles(const BackupFolder& folder, QStringList domains)
-    : m_folder(folder), m_domains(std::move(domains))
-{
-}
-
-QStringList AppFiles::domains(const BackupFolder& folder, const PRBackup& records)
+// The domains of apps whose files are looked through.
+QStringList domainsOf(const BackupFolder& folder, const PRBackup& records)
 {
     QStringList domains = folder.domains(kAppDomains);
     const auto owned = std::remove_if(domains.begin(), domains.end(),
         [&](const QString& domain) { return isOwned(domain, records); });
     domains.erase(owned, domains.end());
     return domains;
+}
+
+} // namespace
+
+AppFiles::AppFiles(const BackupFolder& folder, const PRBackup& records)
+    : m_folder(folder), m_domains(domainsOf(folder, records))
+{
+    for (const int dataType : kChatFiles) {
+        if (const PRData* set = records.getPRData(dataType)) {
+            m_chatFiles.push_back(set);
+        }
+    }
 }
 
 std::unique_ptr<PRData> AppFiles::data(int dataType)
@@ -110,12 +116,28 @@ std::unique_ptr<PRData> AppFiles::data(int dataType)
         [this, index] { return take(index); });
 }
 
+QSet<QString> AppFiles::filesOfChats() const
+{
+    QSet<QString> places;
+    for (const PRData* set : m_chatFiles) {
+        for (int row = 0; row < set->count(1); ++row) {
+            if (const auto* file = dynamic_cast<DeviceFileItem*>(set->at(row, true))) {
+                places.insert(shownPlace(file->place().domain, file->place().path));
+            }
+        }
+    }
+    return places;
+}
+
 void AppFiles::list()
 {
+    const QSet<QString> listed = filesOfChats();
     for (const QString& domain : std::as_const(m_domains)) {
         const QStringList paths = m_folder.filesBelow(domain, QString());
         for (const QString& path : paths) {
-            add(domain, path);
+            if (!listed.contains(shownPlace(domain, path))) {
+                add(domain, path);
+            }
         }
     }
 }

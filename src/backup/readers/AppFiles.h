@@ -4,7 +4,10 @@
 #include "backup/container/BackupFolder.h"
 #include "backup/readers/OpenedBackup.h"
 
+#include <QSet>
+
 #include <array>
+#include <vector>
 
 namespace backup {
 
@@ -14,23 +17,25 @@ class AppFiles final : public RecordSource {
 public:
     static constexpr std::array kDataTypes{24, 25, 26, 35};
 
-    /// Those of the apps with these domains. `folder` outlives the object.
-    AppFiles(const BackupFolder& folder, QStringList domains);
+    /// Those that are in none of the sets that other readers have filled. `folder` and the sets of
+    /// `records` outlive the object.
+    AppFiles(const BackupFolder& folder, const PRBackup& records);
 
-    /// The domains of apps whose files are looked through: all but those of which another reader
-    /// has filled a set.
-    static QStringList domains(const BackupFolder& folder, const PRBackup& records);
+    /// Whether the backup has apps at all.
+    bool hasApps() const { return !m_domains.isEmpty(); }
 
     /// One of the sets.
     std::unique_ptr<PRData> data(int dataType);
 
 private:
+    QSet<QString> filesOfChats() const;
     void list();
     void add(const QString& domain, const QString& path);
     RecordList take(std::size_t index);
 
     const BackupFolder& m_folder;
     QStringList m_domains;
+    std::vector<const PRData*> m_chatFiles; // not owned
     bool m_isListed = false;
     std::array<RecordList, kDataTypes.size()> m_lists; // until their sets take them
 };

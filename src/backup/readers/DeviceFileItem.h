@@ -24,8 +24,9 @@ public:
     QString filePath() const override;
     void setFilePath(const QString& path) override;
 
-protected:
     const DeviceFile& place() const { return m_place; }
+
+protected:
     const FileLocator& files() const { return *m_files; }
 
 private:

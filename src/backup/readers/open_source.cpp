@@ -360,9 +360,8 @@ void addFiles(const BackupFolder& device, OpenedBackup& opened)
         opened.records.add(std::make_unique<Voicemail>(SenderNames(), device, *opened.notices));
     }
     opened.records.add(ringtones(device));
-    QStringList domains = AppFiles::domains(device, opened.records);
-    if (!domains.isEmpty()) {
-        auto files = std::make_unique<AppFiles>(device, std::move(domains));
+    auto files = std::make_unique<AppFiles>(device, opened.records);
+    if (files->hasApps()) {
         for (const int dataType : AppFiles::kDataTypes) {
             opened.records.add(files->data(dataType));
         }

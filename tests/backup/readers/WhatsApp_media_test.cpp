@@ -157,4 +157,19 @@ TEST_F(WhatsAppMediaTest, FilesThatNoMessageNamesFollow)
     EXPECT_EQ(lines(kFiles)[3], "x of a stranger.jpg | Gone");
 }
 
+TEST_F(WhatsAppMediaTest, FilesThatTheChatsDoNotListAreThoseOfAnApp)
+{
+    constexpr int kPictures = 24;
+    constexpr int kDocuments = 35;
+    add("12025550114@s.whatsapp.net/a/b/1.jpg");
+    builder()
+        .add(kDomain, "current_wallpaper.jpg", "wallpaper")
+        .add(kDomain, "Documents/terms.pdf", "terms");
+    open(chats() << media(
+             1, 1, 1, "ZMEDIALOCALPATH", "'Media/12025550114@s.whatsapp.net/a/b/1.jpg'"));
+    EXPECT_EQ(column(kFiles, 0), QStringList({"1.jpg", "current_wallpaper.jpg"}));
+    EXPECT_EQ(column(kPictures, 0), QStringList());
+    EXPECT_EQ(column(kDocuments, 0), QStringList("terms.pdf"));
+}
+
 } // namespace
