@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QImage>
+#include <QImageReader>
 
 #include <gtest/gtest.h>
 
@@ -88,6 +89,20 @@ protected:
 
     support::TempTree tree;
 };
+
+// As stickers of chats are.
+TEST(CCommonUtilsImages, WebPIsLoadedWhereThereIsAPluginForIt)
+{
+    if (!QImageReader::supportedImageFormats().contains("webp")) {
+        GTEST_SKIP() << "Qt has no plugin for WebP here";
+    }
+    const support::TempTree tree;
+    const QString path = tree.write("sticker.webp", encoded(twoColors(), "webp"));
+    QImage image;
+    ASSERT_TRUE(image.load(path));
+    EXPECT_EQ(image.size(), QSize(64, 32));
+    EXPECT_EQ(CCommonUtils::safeloadImage(path), image);
+}
 
 TEST_F(Images, AreReadByTheirContentWhateverTheNameSays)
 {
