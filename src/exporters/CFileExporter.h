@@ -6,6 +6,8 @@
 #include <QMap>
 #include <QStringList>
 
+#include <vector>
+
 class CIProgressCallback;
 class JpegMarkers;
 class RawFile;
@@ -55,13 +57,15 @@ public:
 
 private:
     enum class Copy { Whole, Cancelled, Failed };
-    struct Chunk;
 
     bool convertHeic(const QString& src, const QString& name) const;
-    Copy copyContents(Chunk& chunk, RawFile& source, RawFile& target, JpegMarkers* markers) const;
+    /// Goes on after the first `size` bytes of the source, which were read.
+    Copy copyContents(qint64 size, RawFile& source, RawFile& target, JpegMarkers* markers);
+    bool stepThrough(qint64 written, qint64 size) const;
 
     QDir m_dir;
     QMap<QString, QString> m_dirNames; // by the parent's name: that of its directory
+    std::vector<char> m_block;         // what was read last
     bool m_convertHeic = false;
     CIProgressCallback* m_progress = nullptr;
     QStringList m_unconverted;

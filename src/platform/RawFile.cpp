@@ -64,16 +64,16 @@ qint64 RawFile::read(char* bytes, qint64 size)
     return got;
 }
 
-bool RawFile::write(const char* bytes, qint64 size)
+qint64 RawFile::write(const char* bytes, qint64 size)
 {
     qint64 done = 0;
     while (done < size) {
         const ssize_t put = ::write(m_file, bytes + done, static_cast<size_t>(size - done));
         if (put < 0 && errno != EINTR) {
-            return false;
+            break;
         }
         done += put > 0 ? put : 0;
     }
-    return true;
+    return done;
 }
 // NOLINTEND(readability-make-member-function-const)

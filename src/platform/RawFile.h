@@ -21,8 +21,8 @@ public:
     /// Reads on for at most `size` bytes, and gives their number: 0 at the end of the file, -1
     /// where it cannot be read on.
     qint64 read(char* bytes, qint64 size);
-    /// False unless all were written.
-    bool write(const char* bytes, qint64 size);
+    /// The number of bytes that were written: less than `size` on a full disk and the like.
+    qint64 write(const char* bytes, qint64 size);
 
 private:
     int m_file = -1;

@@ -162,14 +162,45 @@ TEST_F(FileExporterFaults, AFileThatGrowsIsCopiedToItsPresentEnd)
     EXPECT_EQ(progress.position(), kChunk + 200);
 }
 
-TEST_F(FileExporterFaults, AFileThatShrinksIsCopiedAsFarAsItGoes)
+TEST_F(FileExporterFaults, AFileThatShrinksIsCopiedAsFarAsItWasRead)
 {
-    const QString source = tree.write("in/a", QByteArray(3 * kChunk, 'x'));
+    const int whole = 100 * kChunk;
+    const QString source = tree.write("in/a", QByteArray(whole, 'x'));
     ActingProgress progress([&source] { QFile::resize(source, 10); });
     exporter.setProgress(&progress);
     QString name = "a";
     EXPECT_TRUE(exporter.write(source, name));
-    EXPECT_EQ(contents("a").size(), kChunk);
+    const int copied = contents("a").size();
+    EXPECT_GE(copied, kChunk);
+    EXPECT_LT(copied, whole);
+    EXPECT_EQ(copied % kChunk, 0);
+    EXPECT_EQ(progress.position(), copied);
+}
+
+TEST_F(FileExporterFaults, EachChunkIsAStepInAFileOfManyToo)
+{
+    RecordingProgress progress;
+    exporter.setProgress(&progress);
+    const QByteArray bytes = QByteArray(50 * kChunk, 'x') + QByteArray(40 * kChunk + 5, 'y');
+    QString name = "a";
+    EXPECT_TRUE(write(bytes, name));
+    EXPECT_EQ(contents("a"), bytes);
+    QStringList steps;
+    for (int chunk = 0; chunk < 90; ++chunk) {
+        steps += "step 16384";
+    }
+    EXPECT_EQ(progress.calls(), steps + QStringList("step 5"));
+}
+
+TEST_F(FileExporterFaults, AFullDiskHasAStepForEachChunkThatFitted)
+{
+    RecordingProgress progress;
+    exporter.setProgress(&progress);
+    const QString source = tree.write("in/a", QByteArray(5 * kChunk, 'x'));
+    const support::LargestFile limit(2 * kChunk + 100);
+    QString name = "a";
+    EXPECT_FALSE(exporter.write(source, name));
+    EXPECT_EQ(progress.calls(), QStringList({"step 16384", "step 16384"}));
 }
 
 TEST_F(FileExporterFaults, AFileThatVanishesWhileItIsReadIsCopied)

@@ -94,8 +94,8 @@ TEST_F(RawFileTest, WritesAnewOverWhatWasThere)
     put("a", "longer than that");
     RawFile file;
     ASSERT_TRUE(file.openToWrite(path("a")));
-    EXPECT_TRUE(file.write("abc", 3));
-    EXPECT_TRUE(file.write("de", 2));
+    EXPECT_EQ(file.write("abc", 3), 3);
+    EXPECT_EQ(file.write("de", 2), 2);
     EXPECT_EQ(contents("a"), "abcde");
     file.close();
     EXPECT_FALSE(file.openToWrite(path("missing/a")));
@@ -106,8 +106,9 @@ TEST_F(RawFileTest, FullDiskShowsAtTheBytesThatDoNotFit)
     RawFile file;
     ASSERT_TRUE(file.openToWrite(path("a")));
     const support::LargestFile limit(4);
-    EXPECT_TRUE(file.write("abc", 3));
-    EXPECT_FALSE(file.write("def", 3));
+    EXPECT_EQ(file.write("abc", 3), 3);
+    EXPECT_EQ(file.write("def", 3), 1);
+    EXPECT_EQ(file.write("ef", 2), 0);
 }
 
 } // namespace
