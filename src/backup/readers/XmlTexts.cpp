@@ -13,7 +13,9 @@ namespace backup {
 
 namespace {
 
-constexpr std::size_t kDeepest = 16; // places below that are of no use
+// Places below that are of no use, nor are longer names; strangers could fill the memory with them.
+constexpr std::size_t kDeepest = 16;
+constexpr int kLongestName = 32;
 
 struct Entity {
     QLatin1String written;
@@ -47,7 +49,7 @@ XmlTexts::XmlTexts(const QString& xml)
     while (!reader.atEnd()) {
         const auto token = reader.readNext();
         if (token == QXmlStreamReader::StartElement && ++depth <= kDeepest) {
-            const QString name = reader.qualifiedName().toString();
+            const QString name = reader.qualifiedName().left(kLongestName).toString();
             open.push_back({open.empty() ? name : open.back().place + QChar(u'/') + name, {}});
             addAttributes(open.back().place, reader.attributes());
         } else if (token == QXmlStreamReader::Characters && depth <= kDeepest && !open.empty()) {
@@ -64,7 +66,7 @@ XmlTexts::XmlTexts(const QString& xml)
 void XmlTexts::addAttributes(const QString& element, const QXmlStreamAttributes& attributes)
 {
     for (const QXmlStreamAttribute& attribute : attributes) {
-        add(element + QChar(u'@') + attribute.qualifiedName().toString(),
+        add(element + QChar(u'@') + attribute.qualifiedName().left(kLongestName).toString(),
             attribute.value().toString());
     }
 }
@@ -86,6 +88,23 @@ void XmlTexts::add(const QString& place, const QString& text)
     if (!trimmed.isEmpty() && !m_texts.contains(place)) {
         m_texts.insert(place, trimmed);
     }
+}
+
+// Not readElementText: that calls itself for each element within, and messages come from strangers.
+QString elementText(QXmlStreamReader& reader)
+{
+    QString text;
+    for (std::size_t depth = 1; depth > 0 && !reader.atEnd();) {
+        const auto token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement) {
+            ++depth;
+        } else if (token == QXmlStreamReader::EndElement) {
+            --depth;
+        } else if (token == QXmlStreamReader::Characters) {
+            text += reader.text();
+        }
+    }
+    return text;
 }
 
 bool looksLikeXml(const QString& text)

@@ -8,6 +8,7 @@
 #include <initializer_list>
 
 class QXmlStreamAttributes;
+class QXmlStreamReader;
 
 namespace backup {
 
@@ -31,6 +32,10 @@ private:
     QHash<QString, QString> m_texts;
     QString m_allText;
 };
+
+/// The text of the element that `reader` has just begun, with that of all elements within it,
+/// however deep they lie. The reader stands at its end then.
+QString elementText(QXmlStreamReader& reader);
 
 /// Whether a text is XML from its first character on that is none of a blank.
 bool looksLikeXml(const QString& text);

@@ -23,8 +23,6 @@
 #include <QStringList>
 #include <QXmlStreamReader>
 
-#include <vector>
-
 namespace backup {
 
 namespace {
@@ -34,9 +32,12 @@ QString tr(const char* text)
     return QCoreApplication::translate("DataExport", text);
 }
 
-/// One place of a template, with who stands in it.
+// Strangers write the names that stand in a line, which could fill the memory.
+constexpr int kLongestLine = 100'000;
+constexpr int kLongestSeparator = 16;
+
+/// What stands in one place of a template, and who.
 struct Link {
-    QString name;
     QString plain;
     QString separator = QStringLiteral(", ");
     QStringList people;
@@ -44,27 +45,41 @@ struct Link {
     QString text() const { return people.isEmpty() ? plain : people.join(separator); }
 };
 
-QString elementText(QXmlStreamReader& reader)
-{
-    return reader.readElementText(QXmlStreamReader::IncludeChildElements);
-}
-
 void readInto(Link& link, QXmlStreamReader& reader)
 {
     if (reader.name() == "nickname"_L1) {
         link.people.append(plainName(elementText(reader)));
     } else if (reader.name() == "separator"_L1) {
-        link.separator = elementText(reader);
+        link.separator = elementText(reader).left(kLongestSeparator);
     } else if (reader.name() == "plain"_L1) {
         link.plain = elementText(reader);
     }
 }
 
+// "$name$" is a place. What was put into one is no place again.
+QString filled(const QString& text, const QHash<QString, Link>& links)
+{
+    const QStringList parts = text.split(QChar(u'$'));
+    QString line = parts.first();
+    for (int part = 1; part < parts.size() && line.size() < kLongestLine; ++part) {
+        const auto link = links.constFind(parts.at(part));
+        if (link == links.constEnd() || part + 1 == parts.size()) {
+            line += QChar(u'$') + parts.at(part);
+            continue;
+        }
+        ++part;
+        line += link->text() + parts.at(part);
+    }
+    return line;
+}
+
 QString filledTemplate(const QString& message)
 {
     QXmlStreamReader reader(message.trimmed());
+    reader.setNamespaceProcessing(false); // prefixes are often not declared
     QString text;
-    std::vector<Link> links;
+    QHash<QString, Link> links;
+    Link* link = nullptr;
     while (!reader.atEnd()) {
         if (reader.readNext() != QXmlStreamReader::StartElement) {
             continue;
@@ -72,15 +87,12 @@ QString filledTemplate(const QString& message)
         if (reader.name() == "template"_L1 && text.isEmpty()) {
             text = withoutTags(elementText(reader));
         } else if (reader.name() == "link"_L1) {
-            links.push_back({.name = reader.attributes().value("name"_L1).toString()});
-        } else if (!links.empty()) {
-            readInto(links.back(), reader);
+            link = &links[reader.attributes().value("name"_L1).toString()];
+        } else if (link != nullptr) {
+            readInto(*link, reader);
         }
     }
-    for (const Link& link : links) {
-        text.replace(QChar(u'$') + link.name + QChar(u'$'), link.text());
-    }
-    return text;
+    return filled(text, links);
 }
 
 QString systemXmlText(const QString& message)
@@ -119,6 +131,7 @@ QString noticeText(const QString& message)
 QString forwardedText(const QString& recordItem)
 {
     QXmlStreamReader reader(recordItem.trimmed());
+    reader.setNamespaceProcessing(false);
     QStringList lines;
     QString who;
     QString what;

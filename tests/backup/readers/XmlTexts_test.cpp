@@ -2,6 +2,8 @@
 #include "backup/readers/XmlTexts.h"
 #include "platform/literals.h"
 
+#include <QXmlStreamReader>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -51,6 +53,36 @@ TEST(XmlTexts, EntitiesThatMultiplyEndTheReading)
                 + "\">";
     }
     EXPECT_LT(XmlTexts(bomb + "]><m>&a11;</m>").allText().size(), 100'000);
+}
+
+TEST(XmlTexts, LongNamesAreNotKeptWhole)
+{
+    const QByteArray name(4000, 'a');
+    const XmlTexts xml("<m><" + name + " " + name + "='1'>x</" + name + "><b>y</b></m>");
+    EXPECT_EQ(xml.at(QLatin1String("m/" + name)), "");
+    EXPECT_EQ(xml.at(QLatin1String("m/" + name + "@" + name)), "");
+    EXPECT_EQ(xml.at("m/b"_L1), "y");
+    EXPECT_EQ(xml.allText(), "x y");
+}
+
+TEST(ElementText, IsThatOfAllElementsWithinHoweverDeep)
+{
+    constexpr int depth = 300'000;
+    QXmlStreamReader reader("<m><t>a" + QString("<b>").repeated(depth) + "x"
+                            + QString("</b>").repeated(depth)
+                            + "<![CDATA[ c]]></t><u>next</u></m>");
+    reader.readNextStartElement();
+    reader.readNextStartElement();
+    EXPECT_EQ(backup::elementText(reader), "ax c");
+    EXPECT_TRUE(reader.readNextStartElement());
+    EXPECT_EQ(backup::elementText(reader), "next");
+}
+
+TEST(ElementText, EndsWhereTheXmlIsDamaged)
+{
+    QXmlStreamReader reader(QString("<t>a<b>b</c>d</t>"));
+    reader.readNextStartElement();
+    EXPECT_EQ(backup::elementText(reader), "ab");
 }
 
 TEST(WithoutTags, TakesTagsAndKeepsWhatOnlyLooksLikeOne)

@@ -225,6 +225,51 @@ TEST(NoticeText, TemplateIsFilledWithNames)
     EXPECT_EQ(backup::noticeText(message), "\"Ann <3\" added \"Bo、Cy\" to the group chat");
 }
 
+QString filledTemplate(const QString& text, const QStringList& links)
+{
+    return backup::noticeText("<sysmsg type=\"sysmsgtemplate\"><sysmsgtemplate><content_template>"
+                              "<template>"
+                              + text + "</template><link_list>" + links.join(QString())
+                              + "</link_list></content_template></sysmsgtemplate></sysmsg>");
+}
+
+QString linkOf(const QString& name, const QString& nickname)
+{
+    return "<link name=\"" + name + "\"><nickname>" + nickname + "</nickname></link>";
+}
+
+TEST(NoticeText, NameOfAPersonIsNoPlaceOfATemplate)
+{
+    EXPECT_EQ(filledTemplate("$a$ added $b$, $a$!", {linkOf("a", "$b$"), linkOf("b", "Bo")}),
+        "$b$ added Bo, $b$!");
+    EXPECT_EQ(filledTemplate("$5 from $a$ for $x$ and $", {linkOf("a", "Ann")}),
+        "$5 from Ann for $x$ and $");
+}
+
+TEST(NoticeText, NamesThatMultiplyStayWithinBounds)
+{
+    QStringList links;
+    for (int level = 0; level < 40; ++level) {
+        links.append(
+            linkOf(QString("n%1").arg(level), QString("$n%1$").arg(level + 1).repeated(2)));
+    }
+    EXPECT_EQ(filledTemplate("$n0$", links), "$n1$$n1$");
+    const QString many = filledTemplate(
+        QString("$a$").repeated(10'000), {linkOf("a", QString("x").repeated(10'000))});
+    EXPECT_LT(many.size(), 200'000);
+}
+
+TEST(NoticeText, DeepElementsAreReadToTheirEnd)
+{
+    constexpr int depth = 300'000;
+    const QString deep = QString("<b>").repeated(depth) + "Bo" + QString("</b>").repeated(depth);
+    EXPECT_EQ(filledTemplate("$a$ left", {linkOf("a", deep)}), "Bo left");
+    EXPECT_EQ(backup::forwardedText("<recordinfo><datalist><dataitem><sourcename>" + deep
+                                    + "</sourcename><datadesc>Hi</datadesc></dataitem></datalist>"
+                                      "</recordinfo>"),
+        "Bo: Hi");
+}
+
 TEST(SplitSender, TakesTheUserNameBeforeTheText)
 {
     struct SplitRow {
