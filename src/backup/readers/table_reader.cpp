@@ -25,13 +25,15 @@ QString quoted(QString name)
     return QChar(u'"') + name.replace(QChar(u'"'), R"("")"_L1) + QChar(u'"');
 }
 
-// Those of the names that the table has, a comma behind each.
+// Those of the names that the table has, a comma behind each. Of several the first with a value is
+// asked for, and 0 is none; "+" keeps the text "0" from being taken for it.
 QString availableOf(const QStringList& names, const QStringList& available)
 {
+    const QString form = names.size() > 1 ? "nullif(nullif(+%1,''),0),"_L1 : "%1,"_L1;
     QString found;
     for (const QString& name : names) {
         if (available.contains(name)) {
-            found += quoted(name) + QChar(u',');
+            found += form.arg(quoted(name));
         }
     }
     return found;
@@ -107,6 +109,24 @@ QDateTime unixDate(const formats::Statement& row, int column)
 {
     const double seconds = row.real(column);
     return seconds == 0 ? QDateTime() : formats::dateFromCocoaSeconds(seconds - kStartOf2001);
+}
+
+qint64 linkedRow(const formats::Statement& row, int column)
+{
+    const qint64 id = row.integer(column);
+    return id == -1 ? 0 : id;
+}
+
+qint64 countRows(const formats::Database& database, const QString& table)
+{
+    // Where a damaged page ends the count, the last id tells about as much.
+    for (const QLatin1String number : {"count(*)"_L1, "max(rowid)"_L1}) {
+        auto query = database.prepare("SELECT "_L1 + number + " FROM "_L1 + quoted(table));
+        if (query && query->next()) {
+            return query->integer(0);
+        }
+    }
+    return 0;
 }
 
 qint64 dateOrder(const QDateTime& date)

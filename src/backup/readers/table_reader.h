@@ -16,7 +16,7 @@ class Notices;
 
 /// A column of a table as a reader wants it.
 struct WantedColumn {
-    QString name;          ///< "ZTITLE1|ZTITLE": the first of them that has a value
+    QString name;          ///< "ZTITLE1|ZTITLE": the first that has a value other than 0 and ""
     bool needed = false;   ///< each release has it: that it is missing is told
     bool sizeOnly = false; ///< not its value but the number of its bytes, of which none is read
 };
@@ -60,6 +60,12 @@ private:
 /// number.
 QDateTime cocoaDate(const formats::Statement& row, int column);
 QDateTime unixDate(const formats::Statement& row, int column);
+
+/// The row that a column leads to; 0 for none, for which a database may have NULL, 0 or -1.
+qint64 linkedRow(const formats::Statement& row, int column);
+
+/// The number of rows of a table; of a damaged one about that.
+qint64 countRows(const formats::Database& database, const QString& table);
 
 /// What a date is sorted by: milliseconds since 1970, the smallest number where there is none.
 qint64 dateOrder(const QDateTime& date);

@@ -62,6 +62,15 @@ TEST_F(TableReaderTest, FirstOfSeveralColumnsThatHasAValueCounts)
     EXPECT_EQ(rows(std::array{WantedColumn{"a|b|c"}}), QStringList({"b", "c", "NULL"}));
 }
 
+TEST_F(TableReaderTest, ZeroAndNoTextAreNoValueWhereAnotherColumnMayHaveOne)
+{
+    open(databaseBytes({"CREATE TABLE t (b, c, d TEXT)",
+                           "INSERT INTO t VALUES (0, 5, '0'), ('', 'c', ''), (0.0, 7, NULL)"})
+             .file);
+    EXPECT_EQ(rows(std::array{WantedColumn{"b|c"}, WantedColumn{"d|c"}, WantedColumn{"b"}}),
+        QStringList({"5, 0, 0", "c, c, ", "7, 7, 0.0"}));
+}
+
 TEST_F(TableReaderTest, MissingColumnIsNullAndToldWhereItIsNeeded)
 {
     open(databaseBytes({"CREATE TABLE t (a)", "INSERT INTO t VALUES (1), (2)"}).file);
@@ -101,6 +110,32 @@ TEST_F(TableReaderTest, RowsOnBothSidesOfADamagedPageAreReadOnce)
     EXPECT_EQ(ids.removeDuplicates(), 0);
     EXPECT_EQ(
         m_notices.sentences(), QStringList("x.db is damaged; what can be read of it is there."));
+}
+
+TEST_F(TableReaderTest, LinkToNoRowIsNullZeroOrMinusOne)
+{
+    open(databaseBytes({"CREATE TABLE t (a)", "INSERT INTO t VALUES (NULL), (0), (-1), (7)"}).file);
+    QList<qint64> links;
+    backup::TableReader(*m_database, m_name, m_notices)
+        .read("t", std::array{WantedColumn{"a"}},
+            [&](const formats::Statement& row) { links.append(backup::linkedRow(row, 0)); });
+    EXPECT_EQ(links, QList<qint64>({0, 0, 0, 7}));
+}
+
+TEST_F(TableReaderTest, RowsOfADamagedTableAreCountedRoughly)
+{
+    QStringList statements{"CREATE TABLE t (id INTEGER PRIMARY KEY, a)"};
+    for (int i = 1; i <= 2000; ++i) {
+        statements.append(QString("INSERT INTO t VALUES (%1, '%2')").arg(i).arg(i, 40));
+    }
+    QByteArray bytes = databaseBytes(statements).file;
+    open(bytes);
+    EXPECT_EQ(backup::countRows(*m_database, "t"), 2000);
+    EXPECT_EQ(backup::countRows(*m_database, "none"), 0);
+    const int page = bytes.size() / 4096 / 2;
+    bytes.replace(page * 4096, 4096, QByteArray(4096, '\xFF'));
+    open(bytes);
+    EXPECT_EQ(backup::countRows(*m_database, "t"), 2000);
 }
 
 } // namespace
