@@ -8,10 +8,10 @@
 // Des 0 for messages that were sent.
 #include "backup/readers/WeChatAccount.h"
 
-#include "backup/container/BackupFolder.h"
 #include "backup/container/Notices.h"
 #include "backup/readers/chat_lines.h"
 #include "backup/readers/file_signature.h"
+#include "backup/readers/open_beside.h"
 #include "backup/readers/table_reader.h"
 #include "platform/literals.h"
 
@@ -61,7 +61,8 @@ QString documentName(const QString& title, const QString& path)
         return lastPart(path);
     }
     const QString ending = QFileInfo(path).suffix();
-    return QFileInfo(name).suffix().isEmpty() ? name + QChar(u'.') + ending : name;
+    const bool isComplete = ending.isEmpty() || !QFileInfo(name).suffix().isEmpty();
+    return isComplete ? name : name + QChar(u'.') + ending;
 }
 
 } // namespace
@@ -69,16 +70,11 @@ QString documentName(const QString& title, const QString& path)
 struct WeChatAccount::StoredMessage {
     qint64 id = 0;
     qint64 serverId = 0; ///< 0: the server never had it
-    qint64 seconds = 0;  ///< since 1970
+    QDateTime date;
     bool fromMe = false;
     qint64 type = 0;
     QString sender; ///< user name inside a room
     QString text;
-
-    QDateTime date() const
-    {
-        return seconds == 0 ? QDateTime() : QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-    }
 };
 
 WeChatAccount::WeChatAccount(QString directory, const FileLocator& files, Notices& notices)
@@ -105,14 +101,7 @@ void WeChatAccount::add(NamedDatabase database)
 
 std::optional<NamedDatabase> WeChatAccount::openBeside(const QString& path) const
 {
-    std::optional<formats::Result<OpenedDatabase>> opened;
-    if (const auto* device = dynamic_cast<const BackupFolder*>(&m_files)) {
-        if (device->find(kWeChatDomain, path)) { // no other domain's
-            opened = device->openDatabase(kWeChatDomain, path);
-        }
-    } else if (const QString found = m_files.locate(kWeChatDomain, path); !found.isEmpty()) {
-        opened = openWithLog(found, m_files.locate(kWeChatDomain, path + "-wal"_L1), m_notices);
-    }
+    auto opened = openInDomain(m_files, kWeChatDomain, path, m_notices);
     if (!opened) {
         return std::nullopt;
     }
@@ -137,8 +126,12 @@ void WeChatAccount::load()
     }
     m_contacts.readNames(m_people);
     readLoginInfo();
+    const std::vector<Session> sessions = readSessions();
+    for (const Session& session : sessions) {
+        m_people.addUser(session.user);
+    }
     findChats();
-    findDeletedChats();
+    addDeletedChats(sessions);
 }
 
 void WeChatAccount::readLoginInfo()
@@ -200,7 +193,31 @@ std::optional<QDateTime> WeChatAccount::lastDateIn(std::size_t database, const Q
     return row && !row->failed() ? std::nullopt : std::optional(QDateTime());
 }
 
-void WeChatAccount::findDeletedChats()
+std::vector<WeChatAccount::Session> WeChatAccount::readSessions() const
+{
+    const QString table = QStringLiteral("SessionAbstract");
+    const std::vector<WantedColumn> columns{
+        {.name = QStringLiteral("UsrName")}, {.name = QStringLiteral("CreateTime")}};
+    std::vector<Session> sessions;
+    QStringList paths = m_files.filesBelow(kWeChatDomain, m_directory + "/UniversalSession"_L1);
+    paths.append(m_directory + "/session/session.db"_L1);
+    for (const QString& path : std::as_const(paths)) {
+        if (!path.endsWith("/session.db"_L1)) {
+            continue;
+        }
+        const auto list = openBeside(path);
+        if (list && list->opened.database.hasTable(table)) {
+            TableReader(list->opened.database, list->name, m_notices)
+                .read(table, columns, [&](const formats::Statement& row) {
+                    sessions.push_back({.user = row.text(0), .lastDate = unixDate(row, 1)});
+                });
+        }
+    }
+    return sessions;
+}
+
+// Each is added once: its table counts as known from then on.
+void WeChatAccount::addDeletedChats(const std::vector<Session>& sessions)
 {
     if (m_messages.empty()) {
         return; // nothing tells that they are gone
@@ -210,36 +227,14 @@ void WeChatAccount::findDeletedChats()
         const QStringList names = database.opened.database.tables();
         tables.unite(QSet<QString>(names.begin(), names.end()));
     }
-    QStringList paths = m_files.filesBelow(kWeChatDomain, m_directory + "/UniversalSession"_L1);
-    paths.append(m_directory + "/session/session.db"_L1);
-    for (const QString& path : std::as_const(paths)) {
-        if (!path.endsWith("/session.db"_L1)) {
-            continue;
-        }
-        if (const auto session = openBeside(path)) {
-            addDeletedChats(*session, tables);
-        }
-    }
-}
-
-// Each is added once: its table counts as known from then on.
-void WeChatAccount::addDeletedChats(const NamedDatabase& session, QSet<QString>& tables)
-{
-    if (!session.opened.database.hasTable(QStringLiteral("SessionAbstract"))) {
-        return;
-    }
-    const TableReader reader(session.opened.database, session.name, m_notices);
-    const std::vector<WantedColumn> columns{
-        {.name = QStringLiteral("UsrName")}, {.name = QStringLiteral("CreateTime")}};
-    reader.read(QStringLiteral("SessionAbstract"), columns, [&](const formats::Statement& row) {
-        const QString user = row.text(0);
-        const QString hash = weChatHash(user);
-        if (isOfPeople(user) && !tables.contains("Chat_"_L1 + hash)
+    for (const Session& session : sessions) {
+        const QString hash = weChatHash(session.user);
+        if (isOfPeople(session.user) && !tables.contains("Chat_"_L1 + hash)
             && !tables.contains("Hello_"_L1 + hash)) {
             tables.insert("Chat_"_L1 + hash);
-            m_chats.push_back({.hash = hash, .user = user, .lastDate = unixDate(row, 1)});
+            m_chats.push_back({.hash = hash, .user = session.user, .lastDate = session.lastDate});
         }
-    });
+    }
 }
 
 QString WeChatAccount::titleOf(const Chat& chat) const
@@ -270,7 +265,7 @@ WeChatAccount::StoredMessage WeChatAccount::storedMessage(
 {
     StoredMessage message{.id = row.integer(Id),
         .serverId = row.integer(ServerId),
-        .seconds = row.integer(Created),
+        .date = unixDate(row, Created),
         .fromMe = row.integer(Received) == 0,
         .type = row.integer(Type),
         .text = row.text(Text)};
@@ -298,7 +293,7 @@ std::vector<WeChatAccount::StoredMessage> WeChatAccount::storedMessages(const Ch
             });
     }
     const auto order = [](const StoredMessage& message) {
-        return std::tuple(message.seconds, message.id, message.serverId);
+        return std::tuple(dateOrder(message.date), message.id, message.serverId);
     };
     if (!std::ranges::is_sorted(messages, {}, order)) {
         std::ranges::stable_sort(messages, {}, order);
@@ -319,7 +314,7 @@ ChatMessage WeChatAccount::shownMessage(
     const WeChatFile file = files.find(content.folder, stored.id);
     ChatMessage message{.type = static_cast<int>(content.kind),
         .fromMe = stored.fromMe,
-        .date = stored.date(),
+        .date = stored.date,
         .content = std::move(content.text),
         .media = file.path.isEmpty() ? QString() : m_media.locate(file.path)};
     const bool isEvent = content.kind == MsgType::GroupEvent;
@@ -397,7 +392,7 @@ void WeChatAccount::addFilesOfMessages(const Chat& chat, const WeChatChatFiles& 
         taken.insert({content.folder, stored.id});
         if (!content.previewOnly) {
             listed.push_back(listedFile(file, documentName(content.fileName, file.path), title));
-            listed.back().date = stored.date();
+            listed.back().date = stored.date;
         }
     }
 }

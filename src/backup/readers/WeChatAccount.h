@@ -50,6 +50,11 @@ private:
         QDateTime lastDate;
     };
     struct StoredMessage;
+    /// A chat as the list of chats has it.
+    struct Session {
+        QString user;
+        QDateTime lastDate;
+    };
 
     void load();
     void readLoginInfo();
@@ -57,8 +62,8 @@ private:
     void findChats();
     void addTable(const QString& table, std::size_t database, QHash<QString, std::size_t>& known);
     std::optional<QDateTime> lastDateIn(std::size_t database, const QString& table) const;
-    void findDeletedChats();
-    void addDeletedChats(const NamedDatabase& session, QSet<QString>& tables);
+    std::vector<Session> readSessions() const;
+    void addDeletedChats(const std::vector<Session>& sessions);
     QString titleOf(const Chat& chat) const;
     StoredMessage storedMessage(const Chat& chat, const formats::Statement& row) const;
     std::vector<StoredMessage> storedMessages(const Chat& chat) const;

@@ -19,4 +19,12 @@ std::optional<formats::Result<OpenedDatabase>> openBeside(
     return openWithLog(found, files.locate(domain, path + "-wal"_L1), notices);
 }
 
+std::optional<formats::Result<OpenedDatabase>> openInDomain(
+    const FileLocator& files, const QString& domain, const QString& path, Notices& notices)
+{
+    const auto* device = dynamic_cast<const BackupFolder*>(&files);
+    const bool isElsewhere = device != nullptr && !device->find(domain, path);
+    return isElsewhere ? std::nullopt : openBeside(files, domain, path, notices);
+}
+
 } // namespace backup

@@ -13,4 +13,8 @@ namespace backup {
 std::optional<formats::Result<OpenedDatabase>> openBeside(
     const FileLocator& files, const QString& domain, const QString& path, Notices& notices);
 
+/// The same in `domain` alone, where other applications have files of the same path.
+std::optional<formats::Result<OpenedDatabase>> openInDomain(
+    const FileLocator& files, const QString& domain, const QString& path, Notices& notices);
+
 } // namespace backup

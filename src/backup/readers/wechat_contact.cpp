@@ -8,6 +8,7 @@
 // LoginInfo2.dat: 1, repeated { 1 user name   2 WeChat id   3 display name }
 #include "backup/readers/wechat_contact.h"
 
+#include "backup/readers/XmlTexts.h"
 #include "backup/readers/chat_lines.h"
 #include "formats/wire_fields.h"
 #include "platform/literals.h"
@@ -59,8 +60,7 @@ std::vector<WeChatMember> membersOfXml(const QString& xml)
         if (reader.name() == "Member"_L1) {
             members.push_back({.user = reader.attributes().value("UserName"_L1).toString()});
         } else if (reader.name() == "DisplayName"_L1 && !members.empty()) {
-            members.back().roomName =
-                plainName(reader.readElementText(QXmlStreamReader::IncludeChildElements));
+            members.back().roomName = plainName(elementText(reader));
         }
     }
     std::erase_if(members, [](const WeChatMember& member) { return member.user.isEmpty(); });
@@ -150,8 +150,13 @@ void WeChatPeople::add(const WeChatName& name)
     if (name.user.isEmpty() || m_names.contains(name.user)) {
         return;
     }
-    m_users.insert(weChatHash(name.user), name.user);
+    addUser(name.user);
     m_names.insert(name.user, name);
+}
+
+void WeChatPeople::addUser(const QString& user)
+{
+    m_users.insert(weChatHash(user), user);
 }
 
 void WeChatPeople::addRoom(const QString& user, const std::vector<WeChatMember>& members)
@@ -159,6 +164,7 @@ void WeChatPeople::addRoom(const QString& user, const std::vector<WeChatMember>&
     QHash<QString, QString>& names = m_roomNames[user];
     for (const WeChatMember& member : members) {
         names.insert(member.user, member.roomName);
+        addUser(member.user);
     }
     m_rooms.insert(user, members);
 }

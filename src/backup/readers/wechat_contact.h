@@ -62,6 +62,8 @@ class WeChatPeople {
 public:
     /// The first name of a user counts.
     void add(const WeChatName& name);
+    /// Somebody of whom no more than the user name is known: the hash leads to it.
+    void addUser(const QString& user);
     void addRoom(const QString& user, const std::vector<WeChatMember>& members);
 
     /// Null for somebody unknown.

@@ -65,6 +65,19 @@ TEST_F(WeChatTest, MessagesStandByTheirTime)
     EXPECT_EQ(last.msgDate().timeSpec(), Qt::UTC);
 }
 
+TEST_F(WeChatTest, TimeThatIsNoneStandsBeforeTheOthers)
+{
+    QStringList statements = chat("wxid_a", {{.id = 3, .text = "last"}});
+    statements += "INSERT INTO Chat_" + hash("wxid_a")
+                  + " VALUES (1, 1, 71, 9223372036854775807, 'absurd', 2, 1, 1, 1),"
+                    " (1, 2, 72, 0, 'none', 2, 1, 1, 1)";
+    addMessages("MM.sqlite", statements);
+    openFolder();
+    EXPECT_EQ(conversationLines(0), QStringList({"0 < absurd", "0 < none", "0 < last"}));
+    EXPECT_FALSE(conversation(0).contents().at(0).msgDate().isValid());
+    EXPECT_FALSE(conversation(0).contents().at(1).msgDate().isValid());
+}
+
 TEST_F(WeChatTest, OwnMessageWithoutAServerNumberWasNotSent)
 {
     addMessages(
@@ -103,6 +116,26 @@ TEST_F(WeChatTest, SendersOfARoomAreNamed)
         QStringList({"0 < [Ann] Hello", "0 < [Bass] Hi:\nthere", "0 < [Cy] Hey", "0 < [wxid_d] Yo",
             "0 > wxid_a:\nmine", "0 < no name", "6 < \"Bo\" joined", "6 < Left",
             "4 < [Bass] Di\ndi"}));
+}
+
+TEST_F(WeChatTest, ListOfChatsTellsWhoseAChatIs)
+{
+    builder().addDatabase(kDomain, account() + "/session/session.db",
+        {"CREATE TABLE SessionAbstract (UsrName TEXT, CreateTime INTEGER)",
+            "INSERT INTO SessionAbstract VALUES ('7@chatroom', 1600000000), ('anna90', 1)"});
+    addMessages("MM.sqlite", chat("7@chatroom", {{.id = 2, .text = "bo-77:\nHello"}})
+                                 + chat("anna90", {{.id = 1, .text = "Hi"}}));
+    openFolder();
+    EXPECT_EQ(column(kChats, 0), QStringList({"7@chatroom", "anna90"}));
+    EXPECT_EQ(conversationLines(0), QStringList("0 < [bo-77] Hello"));
+}
+
+TEST_F(WeChatTest, MembersOfRoomsTellWhoseAChatIs)
+{
+    addContacts({row({.user = "7@chatroom", .nick = "Choir", .room = room("wxid_a;wxid_b", "")})});
+    addMessages("MM.sqlite", chat("wxid_b", {{.id = 1, .text = "Hi"}}));
+    openFolder();
+    EXPECT_EQ(column(kChats, 0), QStringList("wxid_b"));
 }
 
 TEST_F(WeChatTest, RoomWithoutANameIsCalledByItsMembers)
