@@ -3,11 +3,21 @@
 
 namespace backup {
 
+namespace {
+
+// A device has names in either Unicode form, whatever form its messages have them in.
+QString comparable(const QString& key)
+{
+    return key.normalized(QString::NormalizationForm_C);
+}
+
+} // namespace
+
 void ChatMedia::list(const QString& domain, const QString& directory, KeyOf keyOf)
 {
     const QStringList paths = m_files.filesBelow(domain, directory);
     for (const QString& path : paths) {
-        const QString key = keyOf(path);
+        const QString key = comparable(keyOf(path));
         if (key.isEmpty()) {
             continue;
         }
@@ -20,7 +30,7 @@ void ChatMedia::list(const QString& domain, const QString& directory, KeyOf keyO
 
 const DeviceFile* ChatMedia::find(const QString& key)
 {
-    const auto found = m_byKey.constFind(key);
+    const auto found = m_byKey.constFind(comparable(key));
     if (found == m_byKey.constEnd()) {
         return nullptr;
     }

@@ -72,6 +72,11 @@ bool KikChats::hasMessages(const formats::Database& database)
     return !isEmptyTable(database, "ZKIKMESSAGE"_L1);
 }
 
+qint64 KikChats::countRecords(const formats::Database& database)
+{
+    return countRows(database, "ZKIKMESSAGE"_L1);
+}
+
 void KikChats::readAttachments()
 {
     if (!database().hasTable("ZKIKATTACHMENT"_L1)) {

@@ -17,6 +17,7 @@
 #include "backup/readers/LineChats.h"
 
 #include "backup/readers/chat_lines.h"
+#include "formats/cocoa_values.h"
 #include "formats/plist.h"
 #include "platform/literals.h"
 
@@ -97,8 +98,9 @@ QString tr(const char* text)
 
 QDateTime unixMillisecondsDate(const formats::Statement& row, int column)
 {
-    const qint64 ms = row.integer(column);
-    return ms == 0 ? QDateTime() : QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC);
+    constexpr double startOf2001 = 978'307'200; // seconds since 1970
+    const double seconds = row.real(column) / 1000;
+    return seconds == 0 ? QDateTime() : formats::dateFromCocoaSeconds(seconds - startOf2001);
 }
 
 // "<chat's mid>/<ZID>" of a path below the directory.
@@ -115,7 +117,11 @@ QString keyBelow(QLatin1String directory, const QString& path)
 
 QVariantMap metadataOf(const formats::Statement& row)
 {
-    const auto list = formats::parsePlist(row.blob(Metadata), QString());
+    QByteArray stored = row.blob(Metadata);
+    if (stored.startsWith('\x01')) { // the mark of what the store keeps itself, not in a file
+        stored.remove(0, 1);
+    }
+    const auto list = formats::parsePlist(stored, QString());
     if (!list) {
         return {};
     }
@@ -196,6 +202,11 @@ bool LineChats::hasMessages(const formats::Database& database)
     return !isEmptyTable(database, "ZMESSAGE"_L1);
 }
 
+qint64 LineChats::countRecords(const formats::Database& database)
+{
+    return countRows(database, "ZMESSAGE"_L1);
+}
+
 void LineChats::readContacts()
 {
     if (!database().hasTable("ZCONTACT"_L1)) {
@@ -203,9 +214,9 @@ void LineChats::readContacts()
     }
     const std::array<WantedColumn, 3> columns{{{"ZMID"_L1}, {"ZNAME"_L1}, {"ZPHONENUMBER"_L1}}};
     reader().read("ZCONTACT"_L1, columns, [this](const formats::Statement& row) {
-        Person& person = m_people[row.text(0)];
-        person.own = plainName(row.text(1));
-        person.phone = shownPhone(row.text(2));
+        if (const QString mid = row.text(0); !mid.isEmpty()) {
+            m_people.insert(mid, {.own = plainName(row.text(1)), .phone = shownPhone(row.text(2))});
+        }
     });
 }
 
@@ -216,7 +227,8 @@ void LineChats::readPeople()
     const std::array<WantedColumn, 4> columns{
         {{"ZMID"_L1}, {"ZCUSTOMNAME"_L1}, {"ZADDRESSBOOKNAME"_L1}, {"ZNAME"_L1}}};
     reader().read("ZUSER"_L1, columns, [this](const formats::Statement& row) {
-        const QString mid = row.text(0);
+        // Who has lost the mid must not be taken for all others who have.
+        const QString mid = firstFilled({row.text(0), QString::number(row.integer(4))});
         m_mids.insert(row.integer(4), mid);
         Person& person = m_people[mid];
         person.own = firstFilled({plainName(row.text(3)), person.own});
@@ -290,7 +302,7 @@ TableChats::StoredChat LineChats::chatWithPerson(const QString& mid) const
 
 TableChats::StoredChat LineChats::chatOfGroup(const QString& mid) const
 {
-    const Group group = m_groups.value(mid);
+    const Group group = mid.isEmpty() ? Group() : m_groups.value(mid);
     const QString title =
         firstFilled({group.name, namesOf(group.members).join(", "_L1), tr("Unknown")});
     QStringList phones;
@@ -386,7 +398,7 @@ TableChats::StoredMessage LineChats::readMessage(
 {
     const qint64 content = row.integer(Content);
     const auto* const kind = std::ranges::find(kKinds, content, &KindRow::contentType);
-    const qint64 sender = row.integer(SenderRow);
+    const qint64 sender = linkedRow(row, SenderRow);
     StoredMessage stored;
     ChatMessage& message = stored.message;
     message.fromMe = sender == 0 && content != SystemLine;

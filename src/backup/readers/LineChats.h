@@ -21,6 +21,7 @@ public:
 
     static bool isOfKind(const formats::Database& database);
     static bool hasMessages(const formats::Database& database);
+    static qint64 countRecords(const formats::Database& database);
 
 protected:
     std::vector<StoredChat> readChats() override;

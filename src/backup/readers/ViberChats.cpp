@@ -79,13 +79,19 @@ bool isSystemLine(const QString& systemType)
     return !systemType.isEmpty() && systemType != "text"_L1 && systemType != "0"_L1;
 }
 
+// Releases differ in which of the tables lists the calls.
+QLatin1String callTable(const formats::Database& database)
+{
+    return database.hasTable("ZRECENT"_L1) ? "ZRECENT"_L1 : "ZRECENTSLINE"_L1;
+}
+
 bool isOwn(const formats::Statement& row)
 {
     const QString state = row.text(State);
     if (state == "received"_L1) {
         return false;
     }
-    return state == "send"_L1 || state == "delivered"_L1 || row.integer(Sender) == 0;
+    return state == "send"_L1 || state == "delivered"_L1 || linkedRow(row, Sender) == 0;
 }
 
 bool isAttachment(const QString& path)
@@ -133,8 +139,13 @@ bool ViberChats::hasMessages(const formats::Database& database)
 
 bool ViberChats::hasCalls(const formats::Database& database)
 {
-    const QLatin1String table = database.hasTable("ZRECENT"_L1) ? "ZRECENT"_L1 : "ZRECENTSLINE"_L1;
+    const QLatin1String table = callTable(database);
     return database.hasTable(table) && !isEmptyTable(database, table);
+}
+
+qint64 ViberChats::countRecords(const formats::Database& database)
+{
+    return countRows(database, "ZVIBERMESSAGE"_L1) + countRows(database, callTable(database));
 }
 
 void ViberChats::readPhones()
@@ -163,7 +174,9 @@ void ViberChats::readBook()
     });
     const std::array<WantedColumn, 2> numbers{{{"ZCONTACT"_L1}, {"ZCANONIZEDPHONENUM|ZPHONE"_L1}}};
     reader().read("ZABCONTACTNUMBER"_L1, numbers, [&](const formats::Statement& row) {
-        m_book.insert(shownPhone(row.text(1)), names.value(row.integer(0)));
+        if (const QString number = shownPhone(row.text(1)); !number.isEmpty()) {
+            m_book.insert(number, names.value(row.integer(0)));
+        }
     });
 }
 
@@ -253,7 +266,7 @@ std::vector<TableChats::StoredChat> ViberChats::readChats()
         {{"ZNAME"_L1}, {"ZGROUPID"_L1}, {"ZINTERLOCUTOR"_L1}, {"ZBEINGDELETED"_L1}}};
     reader().read("ZCONVERSATION"_L1, columns, [&](const formats::Statement& row) {
         const qint64 id = row.integer(4);
-        const qint64 partner = row.integer(2);
+        const qint64 partner = linkedRow(row, 2);
         const bool hasGroupId = !row.text(1).isEmpty() && row.text(1) != "0"_L1;
         const bool isGroup = hasGroupId || (partner == 0 && members.value(id).size() > 1);
         const bool isWithOne = !isGroup && partner != 0;
@@ -368,23 +381,21 @@ qint64 ViberChats::partnerOfMessage(qint64 message) const
     if (!row || !row->bind(1, message).next()) {
         return 0;
     }
-    const qint64 sender = row->integer(0);
+    const qint64 sender = linkedRow(*row, 0);
     const std::array<WantedColumn, 1> partner{{{"ZINTERLOCUTOR"_L1}}};
     auto chat = reader().prepareRow("ZCONVERSATION"_L1, partner);
     const bool isRead = chat && chat->bind(1, row->integer(1)).next();
-    return isRead && chat->integer(0) != 0 ? chat->integer(0) : sender;
+    const qint64 other = isRead ? linkedRow(*chat, 0) : 0;
+    return other != 0 ? other : sender;
 }
 
 // Who it was, as far as Viber's own list does not tell.
 void ViberChats::completeCall(ViberCall& listed) const
 {
     Call& call = listed.call;
-    if (listed.message == 0) {
-        call.storedName = m_book.value(shownPhone(call.addresses.value(0)));
-        return;
-    }
-    const Person person = m_people.value(partnerOfMessage(listed.message));
-    call.storedName = person.name;
+    const Person person =
+        listed.message == 0 ? Person() : m_people.value(partnerOfMessage(listed.message));
+    call.storedName = firstFilled({person.name, m_book.value(shownPhone(call.addresses.value(0)))});
     if (call.addresses.isEmpty() && !person.phone.isEmpty()) {
         call.addresses.append(person.phone);
     }

@@ -19,6 +19,8 @@ public:
     static bool isOfKind(const formats::Database& database);
     static bool hasMessages(const formats::Database& database);
     static bool hasCalls(const formats::Database& database);
+    /// Of messages and calls.
+    static qint64 countRecords(const formats::Database& database);
 
     /// The list of calls, which is read when it is first asked for; stands on this object.
     std::unique_ptr<PRData> callList();

@@ -39,6 +39,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <optional>
 #include <span>
 #include <vector>
@@ -183,7 +184,9 @@ struct SourceRow {
     } lies = Lies::Somewhere;
     bool (*isOfKind)(const formats::Database&) = nullptr; ///< by its tables
     void (*add)(FoundDatabase, OpenedBackup&) = nullptr;  ///< fills in what it holds
-    int unless = -1; ///< a set: the place counts only where none above it has filled that
+    /// How much a database holds: once the application moved, and a device may have both places. Of
+    /// the rows of one `add` that stand together the one with the most counts, the first of equals.
+    qint64 (*size)(const formats::Database&) = nullptr;
 };
 
 using Lies = SourceRow::Lies;
@@ -209,20 +212,20 @@ constexpr std::array kSources{
     SourceRow{"MediaDomain"_L1, "Media/Recordings/CloudRecordings.db"_L1, Lies::Somewhere, VoiceMemos::isRecordings, addVoiceMemos},
     SourceRow{"MediaDomain"_L1, "Media/Recordings/Recordings.db"_L1, Lies::Somewhere, VoiceMemos::isRecordings, addVoiceMemos},
     SourceRow{"HomeDomain"_L1, "Library/Voicemail/voicemail.db"_L1, Lies::Somewhere, Voicemail::isVoicemail, addVoicemail},
-    SourceRow{kWhatsAppDomain, kWhatsAppChats, Lies::Here, isWhatsApp, addWhatsApp},
-    SourceRow{kOldWhatsAppDomain, kOldWhatsAppChats, Lies::Here, isWhatsApp, addWhatsApp},
+    SourceRow{kWhatsAppDomain, kWhatsAppChats, Lies::Here, isWhatsApp, addWhatsApp, countWhatsApp},
+    SourceRow{kOldWhatsAppDomain, kOldWhatsAppChats, Lies::Here, isWhatsApp, addWhatsApp, countWhatsApp},
     SourceRow{kWhatsAppBusinessDomain, kWhatsAppChats, Lies::Here, isWhatsApp, addWhatsAppBusiness},
     SourceRow{kWeChatDomain, "Documents/*/DB/WCDB_Contact.sqlite"_L1, Lies::Here, WeChatContacts::isContacts, addWeChat},
     SourceRow{kWeChatDomain, "Documents/*/DB/MM.sqlite"_L1, Lies::Perhaps, WeChatAccount::isMessages, addWeChat},
     SourceRow{kWeChatDomain, "Documents/*/DB/message_*.sqlite"_L1, Lies::Perhaps, WeChatAccount::isMessages, addWeChat},
-    SourceRow{"AppDomainGroup-group.com.linecorp.line"_L1, "Library/Application Support/PrivateStore/P_*/Messages/Line.sqlite"_L1, Lies::Here, LineChats::isOfKind, addLine},
-    SourceRow{"AppDomain-jp.naver.line"_L1, "Library/Application Support/PrivateStore/P_*/Messages/Line.sqlite"_L1, Lies::Here, LineChats::isOfKind, addLine, 9},
-    SourceRow{"AppDomain-jp.naver.line"_L1, "Documents/talk.sqlite"_L1, Lies::Here, LineChats::isOfKind, addLine, 9},
-    SourceRow{"AppDomainGroup-group.viber.share.container"_L1, "com.viber/database/Contacts.data"_L1, Lies::Here, ViberChats::isOfKind, addViber},
-    SourceRow{"AppDomainGroup-group.viber.share.container"_L1, "database/Contacts.data"_L1, Lies::Here, ViberChats::isOfKind, addViber, 11},
-    SourceRow{"AppDomain-com.viber"_L1, "Documents/Contacts.data"_L1, Lies::Here, ViberChats::isOfKind, addViber, 11},
-    SourceRow{"AppDomainGroup-group.com.kik.chat"_L1, "cores/private/*/kik.sqlite"_L1, Lies::Here, KikChats::isOfKind, addKik},
-    SourceRow{"AppDomain-com.kik.chat"_L1, "Documents/kik.sqlite"_L1, Lies::Here, KikChats::isOfKind, addKik, 17},
+    SourceRow{"AppDomainGroup-group.com.linecorp.line"_L1, "Library/Application Support/PrivateStore/P_*/Messages/Line.sqlite"_L1, Lies::Here, LineChats::isOfKind, addLine, LineChats::countRecords},
+    SourceRow{"AppDomain-jp.naver.line"_L1, "Library/Application Support/PrivateStore/P_*/Messages/Line.sqlite"_L1, Lies::Here, LineChats::isOfKind, addLine, LineChats::countRecords},
+    SourceRow{"AppDomain-jp.naver.line"_L1, "Documents/talk.sqlite"_L1, Lies::Here, LineChats::isOfKind, addLine, LineChats::countRecords},
+    SourceRow{"AppDomainGroup-group.viber.share.container"_L1, "com.viber/database/Contacts.data"_L1, Lies::Here, ViberChats::isOfKind, addViber, ViberChats::countRecords},
+    SourceRow{"AppDomainGroup-group.viber.share.container"_L1, "database/Contacts.data"_L1, Lies::Here, ViberChats::isOfKind, addViber, ViberChats::countRecords},
+    SourceRow{"AppDomain-com.viber"_L1, "Documents/Contacts.data"_L1, Lies::Here, ViberChats::isOfKind, addViber, ViberChats::countRecords},
+    SourceRow{"AppDomainGroup-group.com.kik.chat"_L1, "cores/private/*/kik.sqlite"_L1, Lies::Here, KikChats::isOfKind, addKik, KikChats::countRecords},
+    SourceRow{"AppDomain-com.kik.chat"_L1, "Documents/kik.sqlite"_L1, Lies::Here, KikChats::isOfKind, addKik, KikChats::countRecords},
 };
 
 /// A property list of an old release that fills a set which no database has filled.
@@ -298,33 +301,67 @@ std::optional<OpenedDatabase> openOrNote(const BackupFolder& folder, const QStri
     return std::move(**found);
 }
 
-void addFrom(const BackupFolder& device, Places& allPlaces, const SourceRow& source,
-    const SenderNames& names, OpenedBackup& opened)
+// Those of the kind that the row of the table knows.
+std::vector<FoundDatabase> databasesAt(const SourceRow& source, const BackupFolder& device,
+    Places& allPlaces, const SenderNames& names, Notices& notices)
 {
-    if (source.unless >= 0 && opened.records.getPRData(source.unless) != nullptr) {
-        return;
-    }
+    std::vector<FoundDatabase> found;
     const QStringList places = allPlaces.of(source);
     for (const QString& path : places) {
         if (source.lies >= Lies::Here && !device.find(source.domain, path)) {
             continue;
         }
-        auto database = openOrNote(
-            device, source.domain, path, source.lies == Lies::Everywhere, *opened.notices);
+        auto database =
+            openOrNote(device, source.domain, path, source.lies == Lies::Everywhere, notices);
         if (!database) {
             continue;
         }
         if (source.isOfKind(database->database)) {
-            source.add({.database = std::move(*database),
-                           .domain = source.domain,
-                           .name = path,
-                           .names = names},
-                opened);
+            found.push_back({.database = std::move(*database),
+                .domain = source.domain,
+                .name = path,
+                .names = names});
         } else if (source.lies != Lies::Perhaps) {
-            opened.notices->add(
-                tr("%1 of the backup is not of a kind that can be read.").arg(path));
+            notices.add(tr("%1 of the backup is not of a kind that can be read.").arg(path));
         }
     }
+    return found;
+}
+
+// `rows` are a row of the table, or those of an application that has moved.
+void addFrom(const BackupFolder& device, Places& allPlaces, std::span<const SourceRow> rows,
+    const SenderNames& names, OpenedBackup& opened)
+{
+    std::vector<std::vector<FoundDatabase>> found;
+    for (const SourceRow& source : rows) {
+        auto databases = databasesAt(source, device, allPlaces, names, *opened.notices);
+        if (!databases.empty()) {
+            found.push_back(std::move(databases));
+        }
+    }
+    const auto sizeOf = [&](const std::vector<FoundDatabase>& databases) {
+        return std::accumulate(databases.begin(), databases.end(), qint64{0},
+            [&](qint64 size, const FoundDatabase& each) {
+                return size + rows.front().size(each.database.database);
+            });
+    };
+    const auto largest = std::ranges::max_element(found, {}, sizeOf); // asks for none of one alone
+    if (largest != found.end()) {
+        for (FoundDatabase& database : *largest) {
+            rows.front().add(std::move(database), opened);
+        }
+    }
+}
+
+// The first of the rows, and those behind it that are other places of the same.
+std::span<const SourceRow> placesOfFirst(std::span<const SourceRow> rows)
+{
+    const SourceRow& first = rows.front();
+    std::size_t count = 1;
+    while (first.size != nullptr && count < rows.size() && rows[count].add == first.add) {
+        ++count;
+    }
+    return rows.first(count);
 }
 
 void addFrom(const BackupFolder& device, const ListRow& source, OpenedBackup& opened)
@@ -403,8 +440,10 @@ formats::Result<OpenedBackup> openBackupFolder(const QString& path)
         names = SenderNames(addressBook->database);
     }
     Places places(device);
-    for (const SourceRow& source : kSources) {
-        addFrom(device, places, source, names, opened);
+    for (std::span<const SourceRow> rows(kSources); !rows.empty();) {
+        const std::span<const SourceRow> together = placesOfFirst(rows);
+        addFrom(device, places, together, names, opened);
+        rows = rows.subspan(together.size());
     }
     for (const ListRow& source : kLists) {
         addFrom(device, source, opened);

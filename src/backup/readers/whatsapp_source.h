@@ -18,6 +18,8 @@ inline constexpr QLatin1String kOldWhatsAppChats = "Documents/ChatStorage.sqlite
 
 /// Knows a store of either application by its tables.
 bool isWhatsApp(const formats::Database& database);
+/// The number of its messages.
+qint64 countWhatsApp(const formats::Database& database);
 
 /// Adds the account of a store to the records.
 void addWhatsApp(FoundDatabase found, OpenedBackup& opened);

@@ -88,9 +88,10 @@ TEST_F(KikChatsTest, TypeTellsWhoseMessageItIs)
 
 TEST_F(KikChatsTest, ReceivedDateServesWhereThereIsNoOther)
 {
-    openWith({"INSERT INTO ZKIKMESSAGE (ZUSER, ZTYPE, ZBODY, ZRECEIVEDTIMESTAMP)"
-              " VALUES (1, 1, 'x', 700000000.5)"});
-    EXPECT_EQ(dates(kChats, 0), QStringList("2023-03-08T20:26:40.500Z"));
+    openWith({"INSERT INTO ZKIKMESSAGE (ZUSER, ZTYPE, ZBODY, ZTIMESTAMP, ZRECEIVEDTIMESTAMP)"
+              " VALUES (1, 1, 'x', NULL, 700000000.5), (1, 1, 'y', 0, 700000001)"});
+    EXPECT_EQ(
+        dates(kChats, 0), QStringList({"2023-03-08T20:26:40.500Z", "2023-03-08T20:26:41.000Z"}));
 }
 
 TEST_F(KikChatsTest, FirstBytesTellWhatAFileIs)
@@ -141,6 +142,14 @@ TEST_F(KikChatsTest, OlderPlaceIsReadWhereTheNewerHasNothing)
     EXPECT_EQ(lines(kChats), QStringList("Mia | Mia | "));
     EXPECT_EQ(shownMessages(kChats, 0), QStringList("> [0] x"));
     EXPECT_EQ(notices("kik.sqlite"), QStringList());
+}
+
+TEST_F(KikChatsTest, OlderPlaceIsReadWhereItHasMore)
+{
+    builder().addDatabase("AppDomain-com.kik.chat", "Documents/kik.sqlite",
+        kSchema + QStringList{message(3, 1, "'x'"), message(3, 2, "'y'")});
+    openWith({message(1, 1, "'z'")});
+    EXPECT_EQ(column(kChats, 0), QStringList("jo"));
 }
 
 TEST_F(KikChatsTest, MessagesOfALostChatAreThere)

@@ -134,6 +134,7 @@ TEST_F(LineChatsTest, SenderAndStatusTellWhoseMessageItIs)
     const std::array rows{
         Row{"received", "2, 0, 0", "< [0] Aoi: x"},
         Row{"own", "NULL, 0, 1", "> [0] x"},
+        Row{"own, of a store that marks nobody by -1", "-1, 0, 1", "> [0] x"},
         Row{"own, not sent", "NULL, 0, 2", "! [0] x"},
         Row{"own of a release without a status", "NULL, 0, NULL", "> [0] x"},
         Row{"the application's line", "NULL, 18, 1", "< [6] x"},
@@ -226,6 +227,14 @@ TEST_F(LineChatsTest, MetadataTellOfCallsContactsAndFiles)
     EXPECT_EQ(shownMessages(kChats, 0), expected);
 }
 
+TEST_F(LineChatsTest, MetadataMayStandBehindTheMarkOfWhatIsInTheStore)
+{
+    openWith({message("ZCHAT, ZSENDER, ZTIMESTAMP, ZCONTENTTYPE, ZCONTENTMETADATA",
+        "1, 1, 1700000000000, 13, x'01"
+            + QString(propertyList("<key>displayName</key><string>Emi</string>").toHex()) + "'")});
+    EXPECT_EQ(shownMessages(kChats, 0), QStringList("< [4] Emi"));
+}
+
 TEST_F(LineChatsTest, MediaAreFoundByChatAndMessage)
 {
     builder()
@@ -284,12 +293,54 @@ TEST_F(LineChatsTest, OlderPlaceIsReadWhereTheNewerOneHasNothing)
     EXPECT_EQ(lines(kChats), QStringList("Ken | Ken | "));
 }
 
-TEST_F(LineChatsTest, OlderPlaceIsLeftAloneWhereTheNewerOneHasMessages)
+TEST_F(LineChatsTest, OfTwoPlacesTheOneWithMoreMessagesIsRead)
 {
-    builder().addDatabase(
-        kAppDomain, kAccount + "Messages/Line.sqlite", kSchema + QStringList{text(1), text(2)});
-    openWith({text(1)});
-    EXPECT_EQ(lines(kChats), QStringList("Ken | Ken | "));
+    struct Row {
+        const char* what = nullptr;
+        QStringList newer;
+        QStringList older;
+        QStringList chats;
+    };
+    const std::array rows{
+        Row{"newer has more", {text(1), text(1)}, {text(2)}, {"Ken"}},
+        Row{"older has more", {text(1)}, {text(2), text(2)}, {"Choir"}},
+        Row{"as many", {text(1)}, {text(2)}, {"Ken"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        const QTemporaryDir directory;
+        BackupBuilder backup(directory.filePath("backup"));
+        backup.addDatabase(kGroupDomain, kAccount + "Messages/Line.sqlite", kSchema + row.newer)
+            .addDatabase(kAppDomain, kAccount + "Messages/Line.sqlite", kSchema + row.older)
+            .finish();
+        take(backup::openBackupFolder(directory.filePath("backup")));
+        EXPECT_EQ(column(kChats, 0), row.chats);
+    }
+}
+
+TEST_F(LineChatsTest, PeopleWithoutAMidAreNotTakenForEachOther)
+{
+    openWith({"INSERT INTO ZUSER (Z_PK, ZMID, ZNAME) VALUES (7, NULL, 'Emi'), (8, NULL, 'Rin')",
+        "INSERT INTO ZCONTACT (ZMID, ZPHONENUMBER) VALUES (NULL, '+8135550100')",
+        "INSERT INTO ZCHAT VALUES (3, 0, NULL), (4, 2, NULL)",
+        "INSERT INTO ZGROUP VALUES (7, NULL, 'Lost')",
+        message("ZCHAT, ZSENDER, ZTIMESTAMP, ZCONTENTTYPE, ZTEXT", "4, 8, 1500000000000, 0, 'z'"),
+        message("ZCHAT, ZSENDER, ZTIMESTAMP, ZCONTENTTYPE, ZTEXT", "2, 7, 1700000000000, 0, 'x'"),
+        message("ZCHAT, ZSENDER, ZTIMESTAMP, ZCONTENTTYPE, ZTEXT", "2, 8, 1700000000001, 0, 'y'"),
+        message("ZCHAT, ZSENDER, ZTIMESTAMP, ZCONTENTTYPE, ZTEXT", "3, 8, 1600000000000, 0, 'z'")});
+    EXPECT_EQ(shownMessages(kChats, 0), QStringList({"< [0] Emi: x", "< [0] Rin: y"}));
+    EXPECT_EQ(lines(kChats),
+        QStringList({"Choir | Choir | ", "Unknown | Unknown | ", "Unknown | Unknown | "}));
+}
+
+TEST_F(LineChatsTest, AbsurdDateIsNone)
+{
+    openWith({message("ZCHAT, ZSENDER, ZTIMESTAMP, ZCONTENTTYPE, ZTEXT",
+                  "1, 1, 9223372036854775807, 0, 'absurd'"),
+        message("ZCHAT, ZSENDER, ZTIMESTAMP, ZCONTENTTYPE, ZTEXT", "1, 1, 0, 0, 'none'"), text(1),
+        text(2, 9)});
+    EXPECT_EQ(column(kChats, 0), QStringList({"Choir", "Ken"}));
+    EXPECT_EQ(dates(kChats, 1), QStringList({"-", "-", "2023-11-14T22:13:21.000Z"}));
 }
 
 TEST_F(LineChatsTest, ReleaseWithFewColumnsIsRead)

@@ -85,7 +85,7 @@ TEST_F(ViberChatsTest, NameComesFromViberThenTheBooksThenThePerson)
         Row{"her own name", "NULL, NULL, 'mia87'", "NULL", "mia87"},
         Row{"short name", "'', 'M', NULL", "NULL", "M"},
         Row{"number", "NULL, NULL, NULL", "'4917155509999'", "+4917155509999"},
-        Row{"nothing", "NULL, NULL, NULL", "NULL", "Unknown"},
+        Row{"nothing", "NULL, NULL, NULL", "NULL", "Unknown"}, // though somebody has no number
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
@@ -98,7 +98,8 @@ TEST_F(ViberChatsTest, NameComesFromViberThenTheBooksThenThePerson)
                         QString("INSERT INTO ZMEMBER VALUES (1, %1)").arg(row.member),
                         QString("INSERT INTO ZPHONENUMBER VALUES (1, 1, NULL, %1)").arg(row.number),
                         "INSERT INTO ZABCONTACT VALUES (4, 'Dr.', 'Ann', 'Lee')",
-                        "INSERT INTO ZABCONTACTNUMBER VALUES (1, 4, NULL, '+12025550199')",
+                        "INSERT INTO ZABCONTACTNUMBER VALUES (1, 4, NULL, '+12025550199'),"
+                        " (2, 4, NULL, NULL)",
                         text(1)})
             .addDatabase("HomeDomain", "Library/AddressBook/AddressBook.sqlitedb", kChatAddressBook)
             .finish();
@@ -217,6 +218,27 @@ TEST_F(ViberChatsTest, MediaAreFoundByName)
         QStringList({"a.jpg < Mia = picture", "b.mp4 < Mia = film", "old.jpg < _ = left over"}));
 }
 
+TEST_F(ViberChatsTest, NameInTheOtherUnicodeFormIsTheSame)
+{
+    const QString composed = QString::fromUtf8("Caf\u00E9.jpg");
+    builder().add(kAppDomain,
+        "Documents/Attachments/" + composed.normalized(QString::NormalizationForm_D), "picture");
+    openWith({"INSERT INTO ZATTACHMENT VALUES (1, '" + composed + "', 'picture')",
+        message("ZCONVERSATION, ZPHONENUMINDEX, ZSTATE, ZATTACHMENT", "1, 1, 'received', 1")});
+    EXPECT_EQ(shownMessages(kChats, 0), QStringList("< [1]  {picture}"));
+    EXPECT_EQ(files(kFiles).size(), 1);
+}
+
+TEST_F(ViberChatsTest, LinksOfMinusOneLeadNowhere)
+{
+    openWith({"UPDATE ZCONVERSATION SET ZINTERLOCUTOR = -1, ZGROUPID = NULL, ZNAME = NULL"
+              " WHERE Z_PK = 2",
+        message(
+            "ZCONVERSATION, ZPHONENUMINDEX, ZATTACHMENT, ZLOCATION, ZTEXT", "2, -1, -1, -1, 'x'")});
+    EXPECT_EQ(column(kChats, 0), QStringList("Mia, Jo"));
+    EXPECT_EQ(shownMessages(kChats, 0), QStringList("> [0] x"));
+}
+
 TEST_F(ViberChatsTest, CallsAreATable)
 {
     struct Row {
@@ -270,6 +292,17 @@ TEST_F(ViberChatsTest, CallTakesWhatItLacksFromItsLine)
                                          " | 0:01:00 | Incoming | Viber"));
 }
 
+TEST_F(ViberChatsTest, CallWhoseMessageIsGoneHasTheNameOfVibersBook)
+{
+    openWith({kCallSchema, "ALTER TABLE ZRECENT ADD COLUMN ZPHONE VARCHAR",
+        "INSERT INTO ZABCONTACT VALUES (4, NULL, 'Ann', NULL)",
+        "INSERT INTO ZABCONTACTNUMBER VALUES (1, 4, '+12025550199', NULL)",
+        "INSERT INTO ZRECENT (ZCALLLOGMESSAGE, ZDATE, ZCALLTYPE, ZPHONE)"
+        " VALUES (99, 700000000, 'missed', '+12025550199')"});
+    EXPECT_EQ(lines(kCalls),
+        QStringList("Ann | +12025550199 | 2023-03-08 22:26 | 0:00:00 | Missed | Viber"));
+}
+
 TEST_F(ViberChatsTest, WithoutCallsThereIsNoListOfThem)
 {
     openWith({kCallSchema, text(1)});
@@ -284,6 +317,14 @@ TEST_F(ViberChatsTest, OlderPlacesAreReadWhereTheNewerHaveNothing)
         .addDatabase(kAppDomain, "Documents/Contacts.data", kSchema + QStringList{text(1)});
     openFolder();
     EXPECT_EQ(column(kChats, 0), QStringList("Mia"));
+}
+
+TEST_F(ViberChatsTest, OlderPlaceIsReadWhereItHasMore)
+{
+    builder().addDatabase(
+        kAppDomain, "Documents/Contacts.data", kSchema + QStringList{text(2), text(2)});
+    openWith({text(1)});
+    EXPECT_EQ(column(kChats, 0), QStringList("Boats"));
 }
 
 TEST_F(ViberChatsTest, OldReleaseWithFewColumnsIsRead)
