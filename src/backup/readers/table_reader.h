@@ -35,9 +35,9 @@ public:
     using Take = std::function<void(const formats::Statement&)>;
 
     /// Gives each row to `take`, in the order of their ids, with the wanted columns in their order;
-    /// a column that the table lacks is NULL; behind them stands the row's id. Around a damaged
-    /// page the rows before it come first, then those behind it from the last one on. What is
-    /// missing is told to the notices.
+    /// a column that the table lacks is NULL; behind them stands the row's id. Around damaged
+    /// pages the rows before the first one come first, then those behind the last one from their
+    /// end on, then those in between. That something is missing is told to the notices.
     void read(const QString& table, std::span<const WantedColumn> columns, const Take& take) const;
 
     /// Prepares the query of one row: its id is parameter 1, the columns are as above.

@@ -138,4 +138,61 @@ TEST_F(TableReaderTest, RowsOfADamagedTableAreCountedRoughly)
     EXPECT_EQ(backup::countRows(*m_database, "t"), 2000);
 }
 
+// Rows of 500 bytes, eight to a page, with the pages of these leaves overwritten.
+class ManyDamagedPages : public TableReaderTest {
+protected:
+    static constexpr int kRows = 2000;
+
+    // The ids that are read where the pages of some rows are overwritten.
+    QStringList without(const std::vector<int>& rowsOfPages)
+    {
+        QStringList statements{"CREATE TABLE t (id INTEGER PRIMARY KEY, a)"};
+        for (int i = 1; i <= kRows; ++i) {
+            statements.append(
+                QString("INSERT INTO t VALUES (%1, '<%1>%2')").arg(i).arg(QString(500, 'x')));
+        }
+        QByteArray bytes = databaseBytes(statements).file;
+        for (const int row : rowsOfPages) {
+            const int place = bytes.indexOf("<" + QByteArray::number(row) + ">");
+            EXPECT_GT(place, 0);
+            bytes.replace(place / 4096 * 4096, 4096, QByteArray(4096, '\xFF'));
+        }
+        open(bytes);
+        return rows(std::array{WantedColumn{"id"}});
+    }
+};
+
+TEST_F(ManyDamagedPages, LoseOnlyTheirOwnRows)
+{
+    struct Row {
+        const char* what = nullptr;
+        std::vector<int> damaged;
+    };
+    const std::vector<Row> cases{{"far apart", {100, 1000, 1900}}, {"first and last", {1, kRows}},
+        {"first", {1, 500}}, {"last", {1500, kRows}},
+        {"a run of pages", {700, 708, 716, 724, 732, 740, 1200}}};
+    for (const Row& each : cases) {
+        SCOPED_TRACE(each.what);
+        QStringList ids = without(each.damaged);
+        EXPECT_EQ(ids.removeDuplicates(), 0);
+        EXPECT_GE(ids.size(), kRows - 8 * static_cast<int>(each.damaged.size()));
+        for (const int row : each.damaged) {
+            EXPECT_FALSE(ids.contains(QString::number(row)));
+        }
+    }
+}
+
+TEST_F(TableReaderTest, TableWithoutAnyReadableRowEndsSoon)
+{
+    QStringList statements{"CREATE TABLE t (id INTEGER PRIMARY KEY, a)"};
+    for (int i = 1; i <= 100; ++i) {
+        statements.append(QString("INSERT INTO t VALUES (%1, '%2')").arg(i).arg(i, 400));
+    }
+    QByteArray bytes = databaseBytes(statements).file;
+    bytes.replace(4096, bytes.size() - 4096, QByteArray(bytes.size() - 4096, '\xFF'));
+    open(bytes);
+    EXPECT_EQ(rows(std::array{WantedColumn{"id"}}), QStringList());
+    EXPECT_EQ(m_notices.sentences().size(), 1);
+}
+
 } // namespace
