@@ -25,8 +25,10 @@ constexpr QLatin1String kPairs = "LID.sqlite"_L1;
 // "+49 171 5550101": what the application calls those whom it does not know.
 bool isNumber(const QString& name)
 {
+    // Phones part numbers by a hyphen of their own, at which no line breaks.
     return std::ranges::all_of(name, [](QChar c) {
-        return c.isDigit() || c.isSpace() || "+-()./"_L1.contains(QLatin1Char(c.toLatin1()));
+        return c.isDigit() || c.isSpace() || c.category() == QChar::Punctuation_Dash
+               || "+()./"_L1.contains(c);
     });
 }
 
@@ -97,9 +99,10 @@ void WhatsAppPeople::readProfiles(const TableReader& chats)
         return;
     }
     chats.read(table, columns, [this](const formats::Statement& row) {
+        const QString key = keyOf(row.text(0));
         const QString name = cleanName(row.text(1));
-        if (!name.isEmpty()) {
-            m_chosen.insert(keyOf(row.text(0)), name);
+        if (!key.isEmpty() && !name.isEmpty()) {
+            m_chosen.insert(key, name);
         }
     });
 }
@@ -119,9 +122,7 @@ void WhatsAppPeople::readContacts(const TableReader& contacts)
             names, [](const QString& each) { return !each.trimmed().isEmpty(); });
         const QString hidden = hiddenKeyOf(row.text(Hidden));
         const QString id = row.text(Id);
-        if (!hidden.isEmpty() && !id.isEmpty() && !id.endsWith(kHidden)) {
-            m_numbers.insert(hidden, keyOf(id));
-        }
+        addPair(hidden, keyOf(id));
         if (name != names.end()) {
             addName(id.isEmpty() ? row.text(Phone) : id, *name);
             addName(hidden, *name);
@@ -134,8 +135,16 @@ void WhatsAppPeople::readHiddenNumbers(const TableReader& pairs)
     static const std::array columns{
         WantedColumn{.name = "ZLID"_L1}, WantedColumn{.name = "ZPHONENUMBER"_L1}};
     pairs.read("ZWAPHONENUMBERLIDPAIR"_L1, columns, [this](const formats::Statement& row) {
-        m_numbers.insert(hiddenKeyOf(row.text(0)), keyOf(row.text(1)));
+        addPair(hiddenKeyOf(row.text(0)), keyOf(row.text(1)));
     });
+}
+
+void WhatsAppPeople::addPair(const QString& hidden, const QString& digits)
+{
+    if (!hidden.isEmpty() && isDigits(digits)) {
+        m_otherKeys.insert(hidden, digits);
+        m_otherKeys.insert(digits, hidden);
+    }
 }
 
 void WhatsAppPeople::addName(const QString& address, const QString& name)
@@ -150,7 +159,7 @@ void WhatsAppPeople::addName(const QString& address, const QString& name)
 
 QString WhatsAppPeople::digitsOf(const QString& key) const
 {
-    const QString digits = key.endsWith(kHidden) ? m_numbers.value(key) : key;
+    const QString digits = key.endsWith(kHidden) ? m_otherKeys.value(key) : key;
     return isDigits(digits) ? digits : QString();
 }
 
@@ -164,8 +173,9 @@ QString WhatsAppPeople::numberOf(const QString& address) const
 QString WhatsAppPeople::knownName(const QString& address) const
 {
     const QString key = keyOf(address);
+    const QString otherKey = m_otherKeys.value(key);
     const QString digits = digitsOf(key);
-    for (const QString& each : {key, digits}) {
+    for (const QString& each : {key, otherKey}) {
         if (const auto name = m_names.constFind(each); name != m_names.cend()) {
             return *name;
         }
@@ -176,7 +186,7 @@ QString WhatsAppPeople::knownName(const QString& address) const
         }
     }
     const QString chosen = m_chosen.value(key);
-    return chosen.isEmpty() ? m_chosen.value(digits) : chosen;
+    return chosen.isEmpty() ? m_chosen.value(otherKey) : chosen;
 }
 
 QString WhatsAppPeople::nameOf(const QString& address, const QString& chosen) const

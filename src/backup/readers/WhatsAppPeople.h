@@ -40,13 +40,14 @@ private:
     void readProfiles(const TableReader& chats);
     void readContacts(const TableReader& contacts);
     void readHiddenNumbers(const TableReader& pairs);
+    void addPair(const QString& hidden, const QString& digits);
     QString digitsOf(const QString& key) const;
     QString knownName(const QString& address) const;
 
     SenderNames m_addressBook;
-    QHash<QString, QString> m_names;   // by key: "491715550101", "100000000000001@lid"
-    QHash<QString, QString> m_chosen;  // likewise
-    QHash<QString, QString> m_numbers; // digits by hidden key
+    QHash<QString, QString> m_names;     // by key: "491715550101", "100000000000001@lid"
+    QHash<QString, QString> m_chosen;    // likewise
+    QHash<QString, QString> m_otherKeys; // of the same person: the hidden one by digits, and back
     mutable QHash<QString, QString> m_known;
 };
 

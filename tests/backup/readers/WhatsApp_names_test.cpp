@@ -113,6 +113,36 @@ TEST_F(WhatsAppNamesTest, HiddenNumberIsFoundWhereItIsKnown)
                            "Ben Carter | Ben Carter | +12025550114"}));
 }
 
+TEST_F(WhatsAppNamesTest, HiddenAndOpenAddressOfAPersonShareTheirName)
+{
+    builder().addDatabase(kDomain, "LID.sqlite",
+        {"CREATE TABLE ZWAPHONENUMBERLIDPAIR (Z_PK INTEGER PRIMARY KEY, ZLID TEXT,"
+         " ZPHONENUMBER TEXT)",
+            "INSERT INTO ZWAPHONENUMBERLIDPAIR VALUES (1, '1001@lid', '4930'),"
+            " (2, '1002@lid', '4940'), (3, '1001@lid', NULL)"});
+    const QString profile = "ZJID, ZPUSHNAME";
+    open({chat(1, "1001@lid", "Ole", 0), chat(2, "1203@g.us", "Choir", 1),
+        member(21, 2, "4930@s.whatsapp.net", ""), member(22, 2, "4940@s.whatsapp.net", ""),
+        member(23, 2, "1001@lid", ""), member(24, 2, "1003@lid", ""),
+        row("ZWAPROFILEPUSHNAME", profile, "'1002@lid', 'Zara'"),
+        row("ZWAPROFILEPUSHNAME", profile, "NULL, 'Nobody'"), message(1, 1, "Hi"),
+        message(2, 2, "a", "ZGROUPMEMBER", "21"), message(3, 2, "b", "ZGROUPMEMBER", "22"),
+        message(4, 2, "c", "ZGROUPMEMBER", "24")});
+    EXPECT_EQ(messages(), QStringList({"0 < Ole: a", "0 < Zara: b", "0 < 1003: c"}));
+    EXPECT_EQ(lines(kChats), QStringList({"Choir | Choir | +4930,+4940", "Ole | Ole | +4930"}));
+}
+
+// The hyphen of phones is U+2011.
+TEST_F(WhatsAppNamesTest, NumberInPlaceOfANameIsNone)
+{
+    open({chat(1, ben(), "\u202A+1\u00A0(202)\u00A0555\u20110114\u202C", 0),
+        chat(2, "1203@g.us", "Choir", 1),
+        row("ZWAPROFILEPUSHNAME", "ZJID, ZPUSHNAME", "'" + ben() + "', 'Ben'"), message(1, 1, "Hi"),
+        message(2, 2, "Hi", "ZFROMJID", "'" + ben() + "'")});
+    EXPECT_EQ(column(kChats, 0), QStringList({"Choir", "Ben"}));
+    EXPECT_EQ(messages(), QStringList("0 < Ben: Hi"));
+}
+
 TEST_F(WhatsAppNamesTest, NamesLoseTheirMarks)
 {
     open({chat(1, "49@s.whatsapp.net", "\u200E\u2068Ben\u2069 ", 0), message(1, 1, "Hi")});
