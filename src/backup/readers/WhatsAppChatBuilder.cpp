@@ -272,9 +272,11 @@ void WhatsAppChatBuilder::addEvent(const WhatsAppRow& row, const char* line, Cha
     for (const QString& other : persons.others) {
         others.append(shownName(other));
     }
+    others.removeAll(QString()); // groups
+    const bool isOfOthers = row.numbers.type == SystemMessage && isAboutOthers(row.numbers.event);
     const WhatsAppEvent event{
         .number = row.numbers.event,
-        .actor = message.fromMe ? m_you : actorOf(row, persons.actor),
+        .actor = message.fromMe && !isOfOthers ? m_you : actorOf(row, persons.actor),
         .others = others.join(", "_L1),
         .text = text,
     };

@@ -8,6 +8,7 @@
 //   55  of a channel
 #include "backup/readers/whatsapp_events.h"
 
+#include "backup/readers/chat_lines.h"
 #include "backup/readers/event_text.h"
 #include "platform/literals.h"
 
@@ -28,6 +29,9 @@ constexpr int kSubjectReplaced = 56;
 constexpr int kDisappearing = 26;
 constexpr qint64 kHour = 3600;
 constexpr qint64 kDaysFrom = 48; // hours; less than that is told in hours
+
+// Events of the application itself: the code of the other one changed; who is blocked or no more.
+constexpr std::array kAboutOthers{3, 36, 34, 35};
 
 struct EventRow {
     int number = 0;
@@ -114,14 +118,10 @@ QString someone(const QString& actor)
 
 QString sentenceOf(const EventRow& row, const WhatsAppEvent& event)
 {
-    if (row.alone == nullptr) {
-        return filled(row.sentence, someone(event.actor), event.others);
-    }
-    if (event.others.isEmpty()) {
-        return filled(row.alone, someone(event.actor), QString());
-    }
-    return event.actor.isEmpty() ? filled(row.alone, event.others, QString())
-                                 : filled(row.sentence, event.actor, event.others);
+    const QString one = someone(firstFilled({event.actor, event.others}));
+    const bool areTwo = !event.others.isEmpty() && event.others != one;
+    return areTwo || row.alone == nullptr ? filled(row.sentence, one, event.others)
+                                          : filled(row.alone, one, QString());
 }
 
 QString sentenceIn(
@@ -141,12 +141,13 @@ QString subjectOf(const WhatsAppEvent& event)
 QString disappearingSentence(const WhatsAppEvent& event)
 {
     bool isNumber = false;
-    const qint64 hours = event.text.trimmed().toLongLong(&isNumber) / kHour;
-    if (!isNumber) {
-        return tr("%1 changed disappearing messages").arg(someone(event.actor));
-    }
-    if (hours <= 0) {
+    const qint64 seconds = event.text.trimmed().toLongLong(&isNumber);
+    if (isNumber && seconds <= 0) {
         return tr("%1 turned off disappearing messages").arg(someone(event.actor));
+    }
+    const qint64 hours = seconds / kHour;
+    if (hours == 0) {
+        return tr("%1 changed disappearing messages").arg(someone(event.actor));
     }
     return hours < kDaysFrom ? tr("%1 made messages disappear after %2 hours")
                                    .arg(someone(event.actor), QString::number(hours))
@@ -154,9 +155,13 @@ QString disappearingSentence(const WhatsAppEvent& event)
                                    .arg(someone(event.actor), QString::number(hours / 24));
 }
 
+// "491715550101:12@s.whatsapp.net"; no mail address, of which descriptions have some.
 bool isAddress(const QString& text)
 {
-    return text.contains(QChar(u'@')) && !text.contains(QChar(u' '));
+    const int at = text.indexOf(QChar(u'@'));
+    return at > 0 && !text.contains(QChar(u' '))
+           && std::all_of(text.cbegin(), text.cbegin() + at,
+               [](QChar c) { return c.isDigit() || ":.-"_L1.contains(c); });
 }
 
 } // namespace
@@ -172,6 +177,11 @@ QString groupEventSentence(const WhatsAppEvent& event)
     }
     return sentenceIn(
         kGroupEvents, event, QT_TRANSLATE_NOOP("DataExport", "%1 changed the conversation"));
+}
+
+bool isAboutOthers(int systemEvent)
+{
+    return std::ranges::find(kAboutOthers, systemEvent) != kAboutOthers.end();
 }
 
 QString systemEventSentence(const WhatsAppEvent& event)

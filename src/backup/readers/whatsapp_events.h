@@ -20,6 +20,9 @@ QString groupEventSentence(const WhatsAppEvent& event);
 QString systemEventSentence(const WhatsAppEvent& event);
 QString channelEventSentence(const WhatsAppEvent& event);
 
+/// Whether an event of the application itself is never about the owner, whoever its row names.
+bool isAboutOthers(int systemEvent);
+
 /// `sentence`, a text to be translated, with the actor in its place.
 QString actorSentence(const char* sentence, const QString& actor);
 

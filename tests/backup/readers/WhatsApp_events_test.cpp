@@ -52,8 +52,16 @@ TEST_F(WhatsAppTest, EventsOfAGroupAreSentences)
             "Someone made messages disappear after 24 hours"},
         {26, "0", "Mia Jansen turned off disappearing messages",
             "Someone turned off disappearing messages"},
+        {26, "300", "Mia Jansen changed disappearing messages",
+            "Someone changed disappearing messages"},
         {26, "", "Mia Jansen changed disappearing messages",
             "Someone changed disappearing messages"},
+        {3, kBenAlone, "Mia Jansen left the conversation", "Ben Carter left the conversation"},
+        {9, kBenAlone, "Mia Jansen changed the phone number",
+            "Ben Carter changed the phone number"},
+        {15, kBenAlone, "Mia Jansen joined by a link", "Ben Carter joined by a link"},
+        {17, "write@me.example", "Mia Jansen changed the group description",
+            "Someone changed the group description"},
         {30, "", "Mia Jansen joined from the community", "Someone joined from the community"},
         {31, kBenAlone, "Mia Jansen added Ben Carter to the community",
             "Ben Carter was added to the community"},
@@ -97,6 +105,30 @@ TEST_F(WhatsAppTest, EventMayNameWhoDidItInOtherPlaces)
         messages(), QStringList({"6 > You created the group", "6 < Mia Jansen created the group",
                         "6 < Mia Jansen added Ben Carter to the conversation",
                         "6 < Ben Carter was added to the conversation"}));
+}
+
+TEST_F(WhatsAppTest, NobodyAddsOrRemovesOneself)
+{
+    const QString columns = "ZMESSAGETYPE, ZGROUPEVENTTYPE, ZGROUPMEMBER";
+    open(chats() << message(1, 2, mia(), columns, "6, 2, 22")
+                 << message(2, 2, mia(), columns, "6, 7, 22"));
+    EXPECT_EQ(messages(), QStringList({"6 < Mia Jansen was added to the conversation",
+                              "6 < Mia Jansen was removed from the conversation"}));
+}
+
+TEST_F(WhatsAppTest, SecurityCodesAndBlocksAreThoseOfTheOtherOne)
+{
+    QStringList statements = chats();
+    for (const int number : {3, 36, 34, 35}) {
+        statements << message(number, 1, QString(), "ZMESSAGETYPE, ZGROUPEVENTTYPE, ZISFROMME",
+            QString("10, %1, 1").arg(number));
+    }
+    statements << message(40, 2, ben(), "ZMESSAGETYPE, ZGROUPEVENTTYPE, ZISFROMME", "10, 3, 1");
+    open(statements);
+    EXPECT_EQ(messages(1),
+        QStringList({"6 > The security code of Ben Carter changed", "6 > Ben Carter was blocked",
+            "6 > Ben Carter was unblocked", "6 > The security code of Ben Carter changed"}));
+    EXPECT_EQ(messages(0), QStringList("6 > The security code of Ben Carter changed"));
 }
 
 TEST_F(WhatsAppTest, NoticesOfTheApplicationAreSentences)
@@ -156,6 +188,8 @@ TEST(WhatsAppEvents, PersonsStandInTheText)
         {"1@lid;", "1@lid", {}},
         {"Summer choir, at last; really", "", {}},
         {"write to me @ home", "", {}},
+        {"write@me.example;at@once.example", "", {}},
+        {"1-2@g.us;3:4@s.whatsapp.net", "1-2@g.us", {"3:4@s.whatsapp.net"}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.text.toStdString());
