@@ -6,6 +6,7 @@
 //   ZTITLE                                           caption; name of a document; title of a link
 #include "backup/readers/WhatsAppChatBuilder.h"
 
+#include "backup/readers/chat_lines.h"
 #include "backup/readers/event_text.h"
 #include "backup/readers/media_kind.h"
 #include "backup/readers/whatsapp_events.h"
@@ -32,7 +33,6 @@ enum StoredType : int {
     Place = 5,
     GroupMessage = 6,
     LinkMessage = 7,
-    DocumentMessage = 8,
     SystemMessage = 10,
     ChannelMessage = 55,
 };
@@ -54,10 +54,10 @@ constexpr std::array kTypes{
     TypeRow{3,               MsgType::Audio},
     TypeRow{Contacts,        MsgType::ContactCard},
     TypeRow{Place,           MsgType::Location},
-    TypeRow{GroupMessage,     MsgType::GroupEvent},
+    TypeRow{GroupMessage,    MsgType::GroupEvent},
     TypeRow{LinkMessage,     MsgType::Text,    kUnknown},
-    TypeRow{DocumentMessage, MsgType::Document},
-    TypeRow{SystemMessage,    MsgType::GroupEvent},
+    TypeRow{8,               MsgType::Document},
+    TypeRow{SystemMessage,   MsgType::GroupEvent},
     TypeRow{11,              MsgType::Video},
     TypeRow{12,              MsgType::GroupEvent, QT_TRANSLATE_NOOP("DataExport", "A message of %1 has not arrived yet")},
     TypeRow{14,              MsgType::GroupEvent, QT_TRANSLATE_NOOP("DataExport", "%1 deleted a message")},
@@ -81,7 +81,7 @@ constexpr std::array kTypes{
     TypeRow{46,              MsgType::Text,    QT_TRANSLATE_NOOP("DataExport", "Poll")},
     TypeRow{53,              MsgType::Audio},
     TypeRow{54,              MsgType::Video},
-    TypeRow{ChannelMessage,   MsgType::GroupEvent},
+    TypeRow{ChannelMessage,  MsgType::GroupEvent},
     TypeRow{59,              MsgType::GroupEvent, QT_TRANSLATE_NOOP("DataExport", "Call")},
     TypeRow{66,              MsgType::Text,    QT_TRANSLATE_NOOP("DataExport", "Album")},
 };
@@ -209,14 +209,14 @@ QString WhatsAppChatBuilder::textOf(const WhatsAppRow& row, int type) const
         return joinedLines(
             {text, placeLines(row.text(WhatsAppText::CardNames), row.text(WhatsAppText::Title),
                        row.numbers.latitude, row.numbers.longitude)});
-    case DocumentMessage:
-        return joinedLines({row.text(WhatsAppText::Title), text});
     case LinkMessage:
         return text.isEmpty()
                    ? joinedLines({row.text(WhatsAppText::Title), row.text(WhatsAppText::Url)})
                    : text;
-    default:
+    case TextMessage:
         return text.isEmpty() ? row.text(WhatsAppText::Title) : text;
+    default:
+        return joinedLines({row.text(WhatsAppText::Title), text});
     }
 }
 
@@ -332,13 +332,25 @@ QString WhatsAppChatBuilder::actorOf(const WhatsAppRow& row, const QString& name
     return sender.isEmpty() ? m_chat.partner : sender;
 }
 
+// The answer may call the sender by another address, of whom less is known.
+QString WhatsAppChatBuilder::quotedSender(const Quote& quote, const ChatMessage* quoted) const
+{
+    if (quoted == nullptr) {
+        return shownName(quote.sender);
+    }
+    if (quoted->fromMe) {
+        return m_you;
+    }
+    return firstFilled({quoted->member, m_chat.partner, shownName(quote.sender)});
+}
+
 // "> Ben: See you at eight?"
 QString WhatsAppChatBuilder::quoteLine(const Quote& quote, const ChatMessage* quoted) const
 {
-    QString text = quoted != nullptr ? quoted->content : QString();
-    if (text.isEmpty()) {
-        text = quote.text;
-    }
+    const QString content = quoted != nullptr ? quoted->content : QString();
+    // Of a message that was deleted since, its answers keep the text.
+    const bool isLine = quoted != nullptr && quoted->type == static_cast<int>(MsgType::GroupEvent);
+    QString text = isLine ? firstFilled({quote.text, content}) : firstFilled({content, quote.text});
     if (text.isEmpty() && quoted != nullptr) {
         const auto* const name = std::ranges::find_if(kKindNames,
             [&](const KindName& each) { return static_cast<int>(each.kind) == quoted->type; });
@@ -347,7 +359,7 @@ QString WhatsAppChatBuilder::quoteLine(const Quote& quote, const ChatMessage* qu
     if (text.isEmpty()) {
         return {};
     }
-    const QString sender = quoted != nullptr && quoted->fromMe ? m_you : shownName(quote.sender);
+    const QString sender = quotedSender(quote, quoted);
     return (sender.isEmpty() ? QStringLiteral("> ") : "> "_L1 + sender + ": "_L1) + snippetOf(text);
 }
 

@@ -63,6 +63,7 @@ private:
     QString senderAddress(const WhatsAppRow& row) const;
     QString shownName(const QString& address) const;
     QString actorOf(const WhatsAppRow& row, const QString& named) const;
+    QString quotedSender(const Quote& quote, const ChatMessage* quoted) const;
     QString quoteLine(const Quote& quote, const ChatMessage* quoted) const;
     void addMarks();
     void resolveQuotes();

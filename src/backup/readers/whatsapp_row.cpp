@@ -27,6 +27,7 @@ enum Column : int {
     Type,
     Event,
     Date,
+    SentDate,
     Sort,
     Flags,
     Status,
@@ -46,6 +47,7 @@ constexpr std::array kColumns{
     WhatsAppColumn{'m', "ZMESSAGETYPE"},
     WhatsAppColumn{'m', "ZGROUPEVENTTYPE"},
     WhatsAppColumn{'m', "ZMESSAGEDATE"},
+    WhatsAppColumn{'m', "ZSENTDATE"},
     WhatsAppColumn{'m', "ZSORT"},
     WhatsAppColumn{'m', "ZFLAGS"},
     WhatsAppColumn{'m', "ZMESSAGESTATUS"},
@@ -73,6 +75,13 @@ static_assert(std::is_trivially_copyable_v<WhatsAppNumbers>);
 double orderNumber(const formats::Statement& query, int column)
 {
     return query.isNull(column) ? std::numeric_limits<double>::lowest() : query.real(column);
+}
+
+// The moment of a message; of one that has none, when it was sent.
+double momentOf(const formats::Statement& query)
+{
+    return query.real(Date) == 0 && query.real(SentDate) != 0 ? query.real(SentDate)
+                                                              : orderNumber(query, Date);
 }
 
 bool isList(std::string_view address)
@@ -147,7 +156,7 @@ std::span<const WhatsAppColumn> whatsAppColumns()
 WhatsAppRow whatsAppRow(const formats::Statement& query)
 {
     WhatsAppRow row{
-        .numbers = {.order = {.sort = orderNumber(query, Sort), .date = orderNumber(query, Date)},
+        .numbers = {.order = {.sort = orderNumber(query, Sort), .date = momentOf(query)},
             .chat = query.isNull(ChatColumn) ? -1 : query.integer(ChatColumn),
             .member = query.integer(Member),
             .stanza = stanzaHash(query.textView(Stanza)),

@@ -41,6 +41,21 @@ TEST_F(WhatsAppTest, MessageHasItsMomentAndSide)
     EXPECT_FALSE(all[2]->msgDate().isValid());
 }
 
+TEST_F(WhatsAppTest, MomentOfSendingStandsInForThatOfTheMessage)
+{
+    open(chats() << message(1, 1, "of no date", "ZSENTDATE", "700000060")
+                 << message(2, 1, "of date 0", "ZSENTDATE", "700000120")
+                 << message(3, 1, "of both", "ZSENTDATE", "700000000")
+                 << "UPDATE ZWAMESSAGE SET ZMESSAGEDATE = NULL WHERE Z_PK = 1"
+                 << "UPDATE ZWAMESSAGE SET ZMESSAGEDATE = 0 WHERE Z_PK = 2");
+    QStringList dates;
+    for (const PRWhatsappMsg* each : chatItem(0).detailContent()->messages()) {
+        dates << each->msgDate().toUTC().toString(Qt::ISODate);
+    }
+    EXPECT_EQ(dates,
+        QStringList({"2023-03-08T20:27:40Z", "2023-03-08T20:28:40Z", "2023-03-08T20:29:40Z"}));
+}
+
 TEST_F(WhatsAppTest, OwnMessageThatWasNotSentIsMarked)
 {
     QStringList statements = chats();
@@ -167,6 +182,31 @@ TEST_F(WhatsAppTest, AnswerShowsWhatItAnswers)
             "0 < > Mia Jansen: Photo\nNice", "0 < > Mia Jansen: Kept\nHm", "0 < Lost",
             "0 < > Mia Jansen: sent on\nWho?", "0 < later row",
             "0 < > Mia Jansen: later row\nearlier"}));
+}
+
+TEST_F(WhatsAppTest, AnswerNamesTheSenderAsTheAnsweredMessageDoes)
+{
+    const auto answer = [](int id, int chat, const QByteArray& stanza) {
+        return media(id, chat, 0, "ZMETADATA",
+            blob(field(5, stanza) + field(6, "100000000000009@lid")), "Yes");
+    };
+    QStringList statements = chats();
+    statements << message(1, 2, "In the group", "ZGROUPMEMBER, ZSTANZAID", "22, 'A'");
+    statements << answer(2, 2, "A");
+    statements << message(3, 1, "To one", "ZSTANZAID", "'B'") << answer(4, 1, "B");
+    open(statements);
+    EXPECT_EQ(messages(0).last(), "0 < > Mia Jansen: In the group\nYes");
+    EXPECT_EQ(messages(1).last(), "0 < > Ben Carter: To one\nYes");
+}
+
+TEST_F(WhatsAppTest, AnswerKeepsTheTextOfADeletedMessage)
+{
+    const QByteArray metadata =
+        field(5, "A") + field(6, mia().toUtf8()) + field(19, field(1, "See you at eight?"));
+    open(chats() << message(1, 2, QString(), "ZMESSAGETYPE, ZGROUPMEMBER, ZSTANZAID", "14, 22, 'A'")
+                 << media(2, 2, 0, "ZMETADATA", blob(metadata), "Yes"));
+    EXPECT_EQ(messages(), QStringList({"6 < Mia Jansen deleted a message",
+                              "0 < > Mia Jansen: See you at eight?\nYes"}));
 }
 
 TEST_F(WhatsAppTest, ReactionsAreCounted)
