@@ -6,6 +6,7 @@
 #include "backup/readers/WhatsApp.h"
 
 #include "backup/container/Notices.h"
+#include "backup/readers/media_kind.h"
 #include "platform/literals.h"
 
 #include <QCoreApplication>
@@ -43,6 +44,12 @@ QString userOf(const QString& address)
     return address.section(QChar(u'@'), 0, 0);
 }
 
+// A path is listed in one Unicode form and may be named in the other.
+QString pathKey(const QString& path)
+{
+    return path.normalized(QString::NormalizationForm_C);
+}
+
 // "491715550101" of "Message/Media/491715550101@s.whatsapp.net/a/b/x.jpg", of
 // "Media/Profile/491715550101-1700000000.jpg" too; empty for files of nobody
 QString userOfPath(const QString& path)
@@ -59,7 +66,7 @@ QString userOfPath(const QString& path)
     return rest.left(std::max(0, rest.lastIndexOf(QChar(u'-'))));
 }
 
-// What a document is called has mostly an ending; the file always has.
+// What a document is called has mostly an ending, the file always. "Invoice No. 12" has none.
 QString nameOf(const QString& title, const QString& path)
 {
     QString name = lastPart(path);
@@ -69,9 +76,10 @@ QString nameOf(const QString& title, const QString& path)
     if (title.isEmpty() || isThumbnail(path)) {
         return name;
     }
-    const QString ending = QFileInfo(name).suffix();
-    return QFileInfo(title).suffix().isEmpty() && !ending.isEmpty() ? title + QChar(u'.') + ending
-                                                                    : title;
+    const QString ending = QChar(u'.') + QFileInfo(name).suffix();
+    const bool isWhole = ending.size() == 1 || mediaKindOf(title) != MediaKind::Other
+                         || title.endsWith(ending, Qt::CaseInsensitive);
+    return isWhole ? title : title + ending;
 }
 
 } // namespace
@@ -232,7 +240,7 @@ std::vector<ChatFile> WhatsApp::files()
     for (const Chat& chat : m_chats) {
         std::vector<ChatFile> files = filesOf(chat, missing);
         for (ChatFile& file : files) {
-            taken.insert(file.place.path);
+            taken.insert(pathKey(file.place.path));
             found.push_back(std::move(file));
         }
     }
@@ -304,7 +312,7 @@ void WhatsApp::addLeftOver(const QSet<QString>& taken, std::vector<ChatFile>& fo
     }
     std::vector<DeviceFile> files = m_files.all();
     for (DeviceFile& file : files) {
-        if (isThumbnail(file.path) || taken.contains(file.path)) {
+        if (isThumbnail(file.path) || taken.contains(pathKey(file.path))) {
             continue;
         }
         const Chat* chat = chats.value(userOfPath(file.path));

@@ -66,6 +66,57 @@ TEST_F(WhatsAppMediaTest, CaptionsAndNamesAreText)
                               "0 < Tides\nhttps://tides.example"}));
 }
 
+TEST_F(WhatsAppMediaTest, CaptionAndTextAreBothShown)
+{
+    QStringList statements = chats();
+    int id = 0;
+    for (const int type : {1, 2, 3, 11, 15, 38, 54}) {
+        statements << media(++id, 1, type, "ZTITLE", "'Caption'", "Text");
+        statements << media(++id, 1, type, "ZTITLE", "'Same'", "Same");
+    }
+    open(statements);
+    const QStringList shown = messages();
+    for (int row = 0; row < shown.size(); row += 2) {
+        EXPECT_EQ(shown[row].mid(1), " < Caption\nText");
+        EXPECT_EQ(shown[row + 1].mid(1), " < Same");
+    }
+    EXPECT_EQ(shown.size(), 14);
+}
+
+TEST_F(WhatsAppMediaTest, DocumentHasAnEndingThatFitsItsFile)
+{
+    struct Row {
+        const char* title = nullptr;
+        const char* name = nullptr;
+    };
+    const std::vector<Row> rows{{"Timetable", "Timetable.pdf"}, {"Tides.PDF", "Tides.PDF"},
+        {"Invoice No. 12", "Invoice No. 12.pdf"}, {"v1.2", "v1.2.pdf"}, {"Notes.txt", "Notes.txt"}};
+    QStringList statements = chats();
+    int id = 0;
+    for (const Row& row : rows) {
+        const QString file = QString("12025550114@s.whatsapp.net/%1.pdf").arg(++id);
+        add(file);
+        statements << media(
+            id, 1, 8, "ZMEDIALOCALPATH, ZTITLE", QString("'Media/%1', '%2'").arg(file, row.title));
+    }
+    open(statements);
+    const QStringList names = column(kFiles, 0);
+    ASSERT_EQ(std::size_t(names.size()), rows.size());
+    for (const Row& row : rows) {
+        EXPECT_TRUE(names.contains(row.name))
+            << row.name << " is not in " << names.join(", ").toStdString();
+    }
+}
+
+TEST_F(WhatsAppMediaTest, FileIsListedOnceWhateverTheFormOfItsName)
+{
+    const QString name = QString::fromUtf8("Grüße.jpg");
+    add("x/" + name.normalized(QString::NormalizationForm_D));
+    open(chats() << media(1, 1, 1, "ZMEDIALOCALPATH",
+             "'Media/x/" + name.normalized(QString::NormalizationForm_C) + "'"));
+    EXPECT_EQ(column(kFiles, 1), QStringList("Ben Carter"));
+}
+
 TEST_F(WhatsAppMediaTest, PlaceHasItsNameAndCoordinates)
 {
     const QString columns = "ZLATITUDE, ZLONGITUDE, ZVCARDNAME, ZTITLE";
