@@ -21,7 +21,7 @@ namespace backup {
 namespace {
 
 // ZSESSIONTYPE
-enum Session : int { Private = 0, Broadcast = 2, Status = 3 };
+enum Session : int { Private = 0, Group = 1, Broadcast = 2, Status = 3 };
 
 constexpr QLatin1String kSessions = "ZWACHATSESSION"_L1;
 constexpr QLatin1String kMembers = "ZWAGROUPMEMBER"_L1;
@@ -119,8 +119,7 @@ void WhatsApp::list()
     }
     // Of chats whose own rows are gone.
     for (const auto& [id, count] : counts) {
-        m_chats.push_back(
-            {.summary = {.id = id, .title = tr("Unknown")}, .facts = {}, .address = {}});
+        m_chats.push_back(lostChat(id));
     }
     std::ranges::stable_sort(m_chats, std::ranges::greater(),
         [](const Chat& chat) { return dateOrder(chat.summary.lastDate); });
@@ -146,9 +145,9 @@ void WhatsApp::readMembers()
             name = row.text(FirstName);
         }
         WhatsAppMember member{.address = row.text(Member), .name = std::move(name)};
-        if (row.isNull(IsActive) || row.integer(IsActive) != 0) {
-            m_memberAddresses[row.integer(Session)].append(member.address);
-        }
+        const bool isActive = row.isNull(IsActive) || row.integer(IsActive) != 0;
+        (isActive ? m_memberAddresses : m_formerAddresses)[row.integer(Session)].append(
+            member.address);
         m_members.insert(row.integer(Id), member);
     });
 }
@@ -182,28 +181,60 @@ WhatsApp::Chat WhatsApp::chatOf(const formats::Statement& session) const
         .facts = {},
         .address = session.text(Address),
     };
-    const qint64 kind = session.integer(Kind);
+    describe(chat, cleanName(session.text(Name)), session.integer(Kind));
+    return chat;
+}
+
+// A chat of which only the messages are left. Where all that were received are of one person, and
+// of no member of a group, it is taken for one with that person.
+WhatsApp::Chat WhatsApp::lostChat(qint64 id)
+{
+    QSet<QString> senders;
+    bool hasMembers = m_memberAddresses.contains(id) || m_formerAddresses.contains(id);
+    QDateTime newest;
+    const auto take = [&](const WhatsAppRow& row) {
+        hasMembers |= row.numbers.member > 0;
+        if (!row.numbers.fromMe && row.has(WhatsAppText::Sender)) {
+            senders.insert(row.text(WhatsAppText::Sender));
+        }
+        if (const QDateTime date = row.date(); dateOrder(date) > dateOrder(newest)) {
+            newest = date;
+        }
+    };
+    m_rows.read(id, take, [] {}); // what comes once more changes nothing
+    const bool isPrivate = id != WhatsAppRows::kNoChat && !hasMembers && senders.size() == 1;
+    Chat chat{.summary = {.id = id, .lastDate = newest},
+        .facts = {},
+        .address = isPrivate ? *senders.cbegin() : QString()};
+    describe(chat, QString(), isPrivate ? Private : Group);
+    return chat;
+}
+
+// Who takes part in a chat that the application calls `name`.
+void WhatsApp::describe(Chat& chat, const QString& name, qint64 kind) const
+{
     chat.facts.isPrivate = kind == Private && isPerson(chat.address);
     chat.facts.isBroadcast = kind == Broadcast;
-    chat.summary.title = titleOf(chat, cleanName(session.text(Name)), kind);
+    chat.summary.title = titleOf(chat, name, kind);
     chat.summary.name = chat.summary.title;
     if (chat.facts.isPrivate) {
         chat.facts.partner = chat.summary.title;
-        chat.summary.phones = m_people->numberOf(chat.address);
-        return chat;
     }
-    QStringList numbers;
-    for (const QString& member : m_memberAddresses.value(chat.summary.id)) {
+    QStringList numbers{m_people->numberOf(chat.address)};
+    const QStringList members =
+        chat.facts.isPrivate ? QStringList() : m_memberAddresses.value(chat.summary.id);
+    for (const QString& member : members) {
         numbers.append(m_people->numberOf(member));
     }
     numbers.removeAll(QString());
+    numbers.removeDuplicates();
     chat.summary.phones = numbers.join(QChar(u','));
-    return chat;
 }
 
 QString WhatsApp::titleOf(const Chat& chat, const QString& name, qint64 kind) const
 {
-    if (chat.facts.isPrivate) {
+    const bool isOne = isPerson(chat.address); // in kinds of chats that are not known, too
+    if (chat.facts.isPrivate || (isOne && name.isEmpty() && kind != Status)) {
         return m_people->nameOf(chat.address, name);
     }
     if (!name.isEmpty()) {
@@ -212,10 +243,15 @@ QString WhatsApp::titleOf(const Chat& chat, const QString& name, qint64 kind) co
     if (kind == Status) {
         return tr("Status");
     }
+    const qint64 id = chat.summary.id;
+    const QStringList addresses =
+        m_memberAddresses.contains(id) ? m_memberAddresses[id] : m_formerAddresses.value(id);
     QStringList members;
-    for (const QString& member : m_memberAddresses.value(chat.summary.id)) {
+    for (const QString& member : addresses) {
         members.append(m_people->nameOf(member));
     }
+    members.removeAll(QString());
+    members.removeDuplicates();
     return members.isEmpty() ? tr("Unknown") : members.join(", "_L1);
 }
 

@@ -45,6 +45,8 @@ private:
     void readMembers();
     std::vector<Chat> readSessions();
     Chat chatOf(const formats::Statement& session) const;
+    Chat lostChat(qint64 id);
+    void describe(Chat& chat, const QString& name, qint64 kind) const;
     QString titleOf(const Chat& chat, const QString& name, qint64 kind) const;
     std::vector<ChatFile> filesOf(const Chat& chat, int& missing);
     std::optional<ChatFile> fileOf(const WhatsAppRow& row, int& missing) const;
@@ -61,6 +63,7 @@ private:
     std::optional<WhatsAppPeople> m_people; // once they are listed
     WhatsAppMembers m_members;
     QHash<qint64, QStringList> m_memberAddresses; // of those who are still there, by chat
+    QHash<qint64, QStringList> m_formerAddresses; // of those who have left
     std::vector<Chat> m_chats;                    // the one with the newest message first
 };
 

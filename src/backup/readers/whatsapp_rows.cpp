@@ -174,7 +174,7 @@ bool WhatsAppRows::readByIndex(qint64 chat, const Take& take)
 {
     if (!m_ofChat) {
         m_ofChat = prepare(Joins::All, "m.ZCHATSESSION=?"_L1);
-        m_ofNoChat = prepare(Joins::All, "m.ZCHATSESSION IS NULL"_L1);
+        m_ofNoChat = prepare(Joins::All, "(m.ZCHATSESSION IS NULL OR m.ZCHATSESSION=-1)"_L1);
     }
     formats::Statement& query = chat == kNoChat ? *m_ofNoChat : *m_ofChat;
     if (query.handle() == nullptr) {

@@ -157,6 +157,21 @@ TEST_F(WhatsAppNamesTest, GroupWithoutANameIsNamedByItsMembers)
     EXPECT_EQ(lines(kChats), QStringList("Ben, Mia | Ben, Mia | +12025550114,+31205550120"));
 }
 
+TEST_F(WhatsAppNamesTest, GroupThatAllHaveLeftIsNamedByThem)
+{
+    open({chat(1, "1203@g.us", "", 1), member(1, 1, ben(), "Ben", 0), member(2, 1, mia(), "Mia", 0),
+        message(1, 1, "Hi")});
+    EXPECT_EQ(lines(kChats), QStringList("Ben, Mia | Ben, Mia | "));
+}
+
+TEST_F(WhatsAppNamesTest, ChatOfAnUnknownKindIsNamedByItsAddress)
+{
+    open({chat(1, ben(), "", 77), chat(2, "1203@g.us", "Choir", 77), message(1, 1, "Hi"),
+        message(2, 2, "Hi")});
+    EXPECT_EQ(lines(kChats),
+        QStringList({"Choir | Choir | ", "+12025550114 | +12025550114 | +12025550114"}));
+}
+
 TEST_F(WhatsAppNamesTest, TwinsDoNotShareTheirContacts)
 {
     const QString address = "49@s.whatsapp.net";

@@ -255,10 +255,32 @@ TEST_F(WhatsAppTest, BroadcastListIsMarked)
 
 TEST_F(WhatsAppTest, MessagesOfALostChatAreThere)
 {
-    open(chats() << message(1, 77, "whose chat is gone") << message(2, 1, "Hi")
-                 << "INSERT INTO ZWAMESSAGE (Z_PK, ZTEXT) VALUES (3, 'of no chat')");
-    EXPECT_EQ(column(kChats, 0), QStringList({"Ben Carter", "Unknown", "Unknown"}));
-    EXPECT_EQ(messages(1) + messages(2), QStringList({"0 < of no chat", "0 < whose chat is gone"}));
+    open(
+        chats() << message(1, 77, "whose chat is gone") << message(2, 1, "Hi")
+                << "INSERT INTO ZWAMESSAGE (Z_PK, ZTEXT) VALUES (3, 'of no chat')"
+                << "INSERT INTO ZWAMESSAGE (Z_PK, ZCHATSESSION, ZTEXT) VALUES (4, -1, 'nor this')");
+    EXPECT_EQ(column(kChats, 0), QStringList({"Unknown", "Ben Carter", "Unknown"}));
+    EXPECT_EQ(messages(0), QStringList("0 < whose chat is gone"));
+    EXPECT_EQ(messages(2), QStringList({"0 < of no chat", "0 < nor this"}));
+}
+
+TEST_F(WhatsAppTest, LostChatIsNamedByWhoTookPart)
+{
+    const QString one = "4930@s.whatsapp.net";
+    const auto from = [](const QString& address) { return "'" + address + "'"; };
+    open({message(1, 7, "with one", "ZFROMJID", from(one)),
+        message(2, 7, "own", "ZISFROMME, ZTOJID", "1, " + from(one)),
+        message(3, 8, "in a group", "ZFROMJID, ZGROUPMEMBER", "'1203@g.us', 21"),
+        member(21, 8, ben(), "Ben Carter"), member(22, 8, mia(), "Mia Jansen"),
+        message(4, 9, "of Ben", "ZFROMJID", from(ben())),
+        message(5, 9, "of Mia", "ZFROMJID", from(mia()))});
+    EXPECT_EQ(lines(kChats),
+        QStringList({"Unknown | Unknown | ",
+            "Ben Carter, Mia Jansen | Ben Carter, Mia Jansen | +12025550114,+31205550120",
+            "+4930 | +4930 | +4930"}));
+    EXPECT_EQ(messages(0), QStringList({"0 < Ben Carter: of Ben", "0 < Mia Jansen: of Mia"}));
+    EXPECT_EQ(messages(1), QStringList("0 < Ben Carter: in a group"));
+    EXPECT_EQ(messages(2), QStringList({"0 < with one", "0 > own"}));
 }
 
 TEST_F(WhatsAppTest, BusinessAccountIsASetOfItsOwn)
