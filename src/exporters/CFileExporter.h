@@ -6,7 +6,7 @@
 #include <QMap>
 #include <QStringList>
 
-#include <vector>
+#include <memory>
 
 class CIProgressCallback;
 class JpegMarkers;
@@ -18,6 +18,7 @@ class RawFile;
 class CFileExporter final : public CIDataExporter {
 public:
     CFileExporter();
+    ~CFileExporter() override;
 
     /// Told the bytes of each chunk that was copied; a false from it ends the copy. Not owned, may
     /// be null.
@@ -57,6 +58,7 @@ public:
 
 private:
     enum class Copy { Whole, Cancelled, Failed };
+    struct Block;
 
     bool convertHeic(const QString& src, const QString& name) const;
     /// Goes on after the first `size` bytes of the source, which were read.
@@ -65,7 +67,7 @@ private:
 
     QDir m_dir;
     QMap<QString, QString> m_dirNames; // by the parent's name: that of its directory
-    std::vector<char> m_block;         // what was read last
+    std::unique_ptr<Block> m_block;    // what was read last
     bool m_convertHeic = false;
     CIProgressCallback* m_progress = nullptr;
     QStringList m_unconverted;
