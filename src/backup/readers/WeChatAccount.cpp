@@ -199,18 +199,15 @@ std::vector<WeChatAccount::Session> WeChatAccount::readSessions() const
     const std::vector<WantedColumn> columns{
         {.name = QStringLiteral("UsrName")}, {.name = QStringLiteral("CreateTime")}};
     std::vector<Session> sessions;
+    const auto take = [&sessions](const formats::Statement& row) {
+        sessions.push_back({.user = row.text(0), .lastDate = unixDate(row, 1)});
+    };
     QStringList paths = m_files.filesBelow(kWeChatDomain, m_directory + "/UniversalSession"_L1);
     paths.append(m_directory + "/session/session.db"_L1);
     for (const QString& path : std::as_const(paths)) {
-        if (!path.endsWith("/session.db"_L1)) {
-            continue;
-        }
-        const auto list = openBeside(path);
+        const auto list = path.endsWith("/session.db"_L1) ? openBeside(path) : std::nullopt;
         if (list && list->opened.database.hasTable(table)) {
-            TableReader(list->opened.database, list->name, m_notices)
-                .read(table, columns, [&](const formats::Statement& row) {
-                    sessions.push_back({.user = row.text(0), .lastDate = unixDate(row, 1)});
-                });
+            TableReader(list->opened.database, list->name, m_notices).read(table, columns, take);
         }
     }
     return sessions;
