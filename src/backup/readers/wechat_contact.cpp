@@ -28,7 +28,8 @@ using formats::WireFields;
 using formats::wireText;
 using Bytes = std::span<const unsigned char>;
 
-constexpr int kMostNames = 4; // of a room that is called by its members
+constexpr int kMostNames = 4;   // of a room that is called by its members
+constexpr int kMostPhones = 50; // of a person; more are damage, each is compared with all others
 
 bool isPhone(const QString& text)
 {
@@ -39,7 +40,7 @@ bool isPhone(const QString& text)
 void addPhones(Bytes message, int depth, QStringList& phones)
 {
     WireFields fields(message);
-    while (const auto field = fields.next()) {
+    for (auto field = fields.next(); field && phones.size() < kMostPhones; field = fields.next()) {
         const QString text = formats::textOf(field->bytes).trimmed();
         if (!isPhone(text) && depth > 0) {
             addPhones(field->bytes, depth - 1, phones);

@@ -117,6 +117,19 @@ TEST_F(WeChatTest, DamagedBlobsReadAsFarAsTheyGo)
     EXPECT_EQ(notices("Contact"), QStringList());
 }
 
+TEST_F(WeChatTest, NobodyHasThousandsOfNumbers)
+{
+    QByteArray social;
+    for (int number = 0; number < 5000; ++number) {
+        social += wireField(2, "+4930" + QByteArray::number(100'000 + number));
+    }
+    addContacts({row({.user = "wxid_a", .social = social})});
+    openFolder();
+    const QStringList phones = contact(0).phones();
+    EXPECT_GT(phones.size(), 9);
+    EXPECT_LT(phones.size(), 100);
+}
+
 TEST_F(WeChatTest, OlderTableLacksColumns)
 {
     builder().addDatabase(kDomain, account() + "/DB/WCDB_Contact.sqlite",
