@@ -368,7 +368,7 @@ TableChats::StoredFile LineChats::fileOf(const QString& key, const QString& name
 {
     listMedia();
     if (const DeviceFile* file = m_media.find(key)) {
-        return {.place = *file, .name = firstFilled({lastPart(name), lastPart(file->path)})};
+        return {.place = *file, .name = documentName(name, file->path)};
     }
     if (const DeviceFile* preview = m_previews.find(key)) {
         return {.place = *preview, .name = lastPart(key) + ".jpg"_L1};

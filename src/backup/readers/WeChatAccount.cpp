@@ -53,18 +53,6 @@ bool isOfPeople(const QString& user)
     return isWeChatRoom(user) || user.startsWith("wxid_"_L1) || user.endsWith("@openim"_L1);
 }
 
-// Names of files come from strangers.
-QString documentName(const QString& title, const QString& path)
-{
-    const QString name = lastPart(title).simplified();
-    if (name.isEmpty()) {
-        return lastPart(path);
-    }
-    const QString ending = QFileInfo(path).suffix();
-    const bool isComplete = ending.isEmpty() || !QFileInfo(name).suffix().isEmpty();
-    return isComplete ? name : name + QChar(u'.') + ending;
-}
-
 } // namespace
 
 struct WeChatAccount::StoredMessage {

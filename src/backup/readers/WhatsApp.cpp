@@ -6,7 +6,7 @@
 #include "backup/readers/WhatsApp.h"
 
 #include "backup/container/Notices.h"
-#include "backup/readers/media_kind.h"
+#include "backup/readers/chat_lines.h"
 #include "platform/literals.h"
 
 #include <QCoreApplication>
@@ -66,20 +66,10 @@ QString userOfPath(const QString& path)
     return rest.left(std::max(0, rest.lastIndexOf(QChar(u'-'))));
 }
 
-// What a document is called has mostly an ending, the file always. "Invoice No. 12" has none.
 QString nameOf(const QString& title, const QString& path)
 {
-    QString name = lastPart(path);
-    if (isThumbnail(path)) {
-        name = QFileInfo(name).completeBaseName() + ".jpg"_L1;
-    }
-    if (title.isEmpty() || isThumbnail(path)) {
-        return name;
-    }
-    const QString ending = QChar(u'.') + QFileInfo(name).suffix();
-    const bool isWhole = ending.size() == 1 || mediaKindOf(title) != MediaKind::Other
-                         || title.endsWith(ending, Qt::CaseInsensitive);
-    return isWhole ? title : title + ending;
+    return isThumbnail(path) ? QFileInfo(lastPart(path)).completeBaseName() + ".jpg"_L1
+                             : documentName(title, path);
 }
 
 } // namespace

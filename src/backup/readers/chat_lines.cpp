@@ -2,9 +2,11 @@
 #include "backup/readers/chat_lines.h"
 
 #include "backup/readers/DeviceFileItem.h"
+#include "backup/readers/media_kind.h"
 #include "platform/literals.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
@@ -101,6 +103,19 @@ QString firstFilled(std::initializer_list<QString> texts)
     const auto* const found =
         std::ranges::find_if(texts, [](const QString& text) { return !text.isEmpty(); });
     return found != texts.end() ? *found : QString();
+}
+
+QString documentName(const QString& title, const QString& path)
+{
+    const QString name = lastPart(title).simplified();
+    if (name.isEmpty()) {
+        return lastPart(path);
+    }
+    // Not any ending: "Invoice No. 12" has none.
+    const QString ending = QChar(u'.') + QFileInfo(lastPart(path)).suffix();
+    const bool isWhole = ending.size() == 1 || mediaKindOf(name) != MediaKind::Other
+                         || name.endsWith(ending, Qt::CaseInsensitive);
+    return isWhole ? name : name + ending;
 }
 
 QString shownPhone(const QString& number)

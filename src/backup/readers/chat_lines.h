@@ -40,6 +40,10 @@ QString plainName(const QString& name);
 /// The first of the texts that is not empty; empty where none is.
 QString firstFilled(std::initializer_list<QString> texts);
 
+/// What its sender called a document, without directories and with the ending of its file where it
+/// has none; the name of the file where it has no `title`.
+QString documentName(const QString& title, const QString& path);
+
 /// A number as a phone shows it: with "+" where it is one with a country's code.
 QString shownPhone(const QString& number);
 

@@ -98,9 +98,8 @@ TEST_F(ViberChatsTest, NameComesFromViberThenTheBooksThenThePerson)
                         QString("INSERT INTO ZMEMBER VALUES (1, %1)").arg(row.member),
                         QString("INSERT INTO ZPHONENUMBER VALUES (1, 1, NULL, %1)").arg(row.number),
                         "INSERT INTO ZABCONTACT VALUES (4, 'Dr.', 'Ann', 'Lee')",
-                        "INSERT INTO ZABCONTACTNUMBER VALUES (1, 4, NULL, '+12025550199'),"
-                        " (2, 4, NULL, NULL)",
-                        text(1)})
+                        "INSERT INTO ZABCONTACTNUMBER VALUES (1, 4, NULL, '+12025550199')",
+                        "INSERT INTO ZABCONTACTNUMBER VALUES (2, 4, NULL, NULL)", text(1)})
             .addDatabase("HomeDomain", "Library/AddressBook/AddressBook.sqlitedb", kChatAddressBook)
             .finish();
         take(backup::openBackupFolder(directory.filePath("backup")));
@@ -297,8 +296,8 @@ TEST_F(ViberChatsTest, CallWhoseMessageIsGoneHasTheNameOfVibersBook)
     openWith({kCallSchema, "ALTER TABLE ZRECENT ADD COLUMN ZPHONE VARCHAR",
         "INSERT INTO ZABCONTACT VALUES (4, NULL, 'Ann', NULL)",
         "INSERT INTO ZABCONTACTNUMBER VALUES (1, 4, '+12025550199', NULL)",
-        "INSERT INTO ZRECENT (ZCALLLOGMESSAGE, ZDATE, ZCALLTYPE, ZPHONE)"
-        " VALUES (99, 700000000, 'missed', '+12025550199')"});
+        R"(INSERT INTO ZRECENT (ZCALLLOGMESSAGE, ZDATE, ZCALLTYPE, ZPHONE)
+            VALUES (99, 700000000, 'missed', '+12025550199'))"});
     EXPECT_EQ(lines(kCalls),
         QStringList("Ann | +12025550199 | 2023-03-08 22:26 | 0:00:00 | Missed | Viber"));
 }

@@ -76,4 +76,29 @@ TEST(ChatLines, NumberWithCountryHasItsPlus)
     }
 }
 
+TEST(DocumentName, IsTheSendersWithTheEndingOfTheFile)
+{
+    struct Row {
+        const char* title = nullptr;
+        const char* path = nullptr;
+        const char* name = nullptr;
+    };
+    const std::vector<Row> rows{
+        {"Tides.pdf", "a/1.pdf", "Tides.pdf"},
+        {"Tides", "a/1.pdf", "Tides.pdf"},
+        {"TIDES.PDF", "a/1.pdf", "TIDES.PDF"},
+        {"Invoice No. 12", "a/1.pdf", "Invoice No. 12.pdf"},
+        {"data.xyz", "a/1.xyz", "data.xyz"},
+        {"Tides", "a.b/1", "Tides"},
+        {"", "a/1.pdf", "1.pdf"},
+        {"../../Tides", "a/1.pdf", "Tides.pdf"},
+        {"Tides/", "a/1.pdf", "1.pdf"},
+        {" High\nand low ", "1.pdf", "High and low.pdf"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.title);
+        EXPECT_EQ(backup::documentName(row.title, row.path), row.name);
+    }
+}
+
 } // namespace
