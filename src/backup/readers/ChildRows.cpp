@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "backup/readers/ChildRows.h"
 
+#include "backup/readers/keyed_rows.h"
 #include "platform/literals.h"
 
 #include <utility>
@@ -14,10 +15,9 @@ ChildRows::ChildRows(
 {
 }
 
-QString ChildRows::selection(const QString& condition) const
+QString ChildRows::select() const
 {
-    return "SELECT "_L1 + m_reader.selection(m_table, m_columns) + ",rowid FROM "_L1 + m_table
-           + " WHERE "_L1 + condition + " ORDER BY rowid"_L1;
+    return "SELECT "_L1 + m_reader.selection(m_table, m_columns) + ",rowid FROM "_L1 + m_table;
 }
 
 void ChildRows::read(qint64 parent, const TableReader::Take& take)
@@ -27,7 +27,8 @@ void ChildRows::read(qint64 parent, const TableReader::Take& take)
         return;
     }
     if (!m_query) {
-        auto query = m_reader.database().prepare(selection(m_parent + " = ?"_L1));
+        auto query = m_reader.database().prepare(
+            select() + " WHERE "_L1 + m_parent + " = ? ORDER BY rowid"_L1);
         if (!query) {
             m_reader.noteDamage();
             return;
@@ -50,26 +51,15 @@ void ChildRows::read(qint64 parent, const TableReader::Take& take)
 // The rows behind the row `last`, without the index: it may be what is damaged.
 void ChildRows::readOn(qint64 parent, qint64 last, const TableReader::Take& take) const
 {
-    const QString rows = selection("ifnull("_L1 + m_parent + ",0) = ? AND rowid > ?"_L1);
-    const int idColumn = static_cast<int>(m_columns.size());
-    auto query = m_reader.database().prepare(rows);
-    if (query) {
-        query->bind(1, parent).bind(2, last);
-    }
-    while (query && query->next()) {
-        last = query->integer(idColumn);
-        take(*query);
-    }
-    if (query && !query->failed()) {
-        return;
-    }
-    m_reader.noteDamage();
-    auto backwards = m_reader.database().prepare(rows + " DESC"_L1);
-    if (backwards) {
-        backwards->bind(1, parent).bind(2, last);
-    }
-    while (backwards && backwards->next()) {
-        take(*backwards);
+    const KeyedQuery query{
+        .select = select(),
+        .condition = QStringLiteral("ifnull(%1,0) = %2 AND rowid > %3")
+                         .arg(m_parent, QString::number(parent), QString::number(last)),
+        .key = QStringLiteral("rowid"),
+        .keyColumn = static_cast<int>(m_columns.size()),
+    };
+    if (!readByKey(m_reader.database(), query, take)) {
+        m_reader.noteDamage();
     }
 }
 

@@ -23,7 +23,7 @@ public:
     void readAll(const TableReader::Take& take) const;
 
 private:
-    QString selection(const QString& condition) const;
+    QString select() const;
     void readOn(qint64 parent, qint64 last, const TableReader::Take& take) const;
 
     const TableReader& m_reader;

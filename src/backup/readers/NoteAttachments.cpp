@@ -8,6 +8,7 @@
 #include "backup/readers/NoteAttachments.h"
 
 #include "backup/readers/core_data.h"
+#include "backup/readers/keyed_rows.h"
 
 #include <algorithm>
 #include <utility>
@@ -79,8 +80,10 @@ void NoteAttachments::readKind(const formats::Database& database, QLatin1String 
     const QString& select, const std::function<void(const formats::Statement&)>& take)
 {
     const auto entity = entityNumber(database, kind);
-    const bool isWhole = readRows(database,
-        select + " WHERE o.Z_ENT = "_L1 + QString::number(entity.value_or(-1)), "o.Z_PK"_L1, take);
+    const KeyedQuery query{.select = select,
+        .condition = "o.Z_ENT = "_L1 + QString::number(entity.value_or(-1)),
+        .key = "o.Z_PK"_L1};
+    const bool isWhole = readByKey(database, query, take);
     m_isDamaged = m_isDamaged || !isWhole;
 }
 

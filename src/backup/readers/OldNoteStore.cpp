@@ -10,6 +10,7 @@
 #include "backup/container/Notices.h"
 #include "backup/readers/core_data.h"
 #include "backup/readers/html_text.h"
+#include "backup/readers/keyed_rows.h"
 #include "backup/readers/note_content.h"
 #include "platform/literals.h"
 
@@ -73,9 +74,11 @@ void OldNoteStore::readNotes()
                      : " LEFT JOIN (SELECT NULL AS ZNAME) AS ZSTORE"_L1;
     sql += hasAccounts ? " LEFT JOIN ZACCOUNT ON ZACCOUNT.Z_PK = ZSTORE.ZACCOUNT"_L1
                        : " LEFT JOIN (SELECT NULL AS ZNAME) AS ZACCOUNT"_L1;
-    const bool isWhole = readRows(database,
-        sql + " WHERE coalesce("_L1 + first("ZISBOOKKEEPINGENTRY"_L1) + ",0) = 0"_L1, "n.Z_PK"_L1,
-        [this](const formats::Statement& row) { add(row); });
+    const KeyedQuery query{.select = sql,
+        .condition = "coalesce("_L1 + first("ZISBOOKKEEPINGENTRY"_L1) + ",0) = 0"_L1,
+        .key = "n.Z_PK"_L1};
+    const bool isWhole =
+        readByKey(database, query, [this](const formats::Statement& row) { add(row); });
     if (!isWhole) {
         m_notices.add(QCoreApplication::translate(
             "DataExport", "%1 is damaged; what can be read of it is there.")

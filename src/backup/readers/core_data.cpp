@@ -19,26 +19,6 @@ std::optional<qint64> entityNumber(const formats::Database& database, QLatin1Str
     return query->next() ? std::optional(query->integer(0)) : std::nullopt;
 }
 
-bool readRows(const formats::Database& database, const QString& query, const QString& key,
-    const std::function<void(const formats::Statement&)>& take)
-{
-    const QString ordered = query + " ORDER BY "_L1 + key;
-    auto rows = database.prepare(ordered);
-    qint64 last = INT64_MIN;
-    while (rows && rows->next()) {
-        last = rows->integer(0);
-        take(*rows);
-    }
-    if (rows && !rows->failed()) {
-        return true;
-    }
-    auto backwards = database.prepare(ordered + " DESC"_L1);
-    while (backwards && backwards->next() && backwards->integer(0) > last) {
-        take(*backwards);
-    }
-    return false;
-}
-
 QString TableColumns::firstOf(
     const QString& alias, std::initializer_list<QLatin1String> names) const
 {

@@ -7,7 +7,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <initializer_list>
 #include <optional>
 
@@ -16,12 +15,6 @@ namespace backup {
 /// Number of a kind of rows ("ICNote") in the stores whose tables begin with Z; it differs from
 /// store to store.
 std::optional<qint64> entityNumber(const formats::Database& database, QLatin1String name);
-
-/// Gives each row of `query`, whose first column is `key`, to `take` in the order of the key.
-/// Around a damaged page the rows before it come first, then those behind it from the last one on.
-/// False: some could not be read.
-bool readRows(const formats::Database& database, const QString& query, const QString& key,
-    const std::function<void(const formats::Statement&)>& take);
 
 /// The columns of a table, which differ from release to release.
 class TableColumns {

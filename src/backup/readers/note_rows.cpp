@@ -9,6 +9,7 @@
 #include "backup/readers/note_rows.h"
 
 #include "backup/readers/core_data.h"
+#include "backup/readers/keyed_rows.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -105,9 +106,11 @@ private:
     void readObjects(const QStringList& columns, const QString& condition,
         const std::function<void(const formats::Statement&)>& take)
     {
-        const QString query = "SELECT o.Z_PK,"_L1 + columns.join(QChar(u','))
-                              + " FROM ZICCLOUDSYNCINGOBJECT o WHERE "_L1 + condition;
-        if (!readRows(m_database, query, "o.Z_PK"_L1, take)) {
+        const KeyedQuery query{.select = "SELECT o.Z_PK,"_L1 + columns.join(QChar(u','))
+                                         + " FROM ZICCLOUDSYNCINGOBJECT o"_L1,
+            .condition = condition,
+            .key = "o.Z_PK"_L1};
+        if (!readByKey(m_database, query, take)) {
             m_result.damaged = true;
         }
     }

@@ -2,15 +2,12 @@
 #include "backup/readers/table_reader.h"
 
 #include "backup/container/Notices.h"
-#include "backup/readers/GapReader.h"
+#include "backup/readers/keyed_rows.h"
 #include "formats/cocoa_values.h"
 #include "platform/literals.h"
 
 #include <QCoreApplication>
 #include <QStringList>
-
-#include <cstdint>
-#include <optional>
 
 namespace backup {
 
@@ -76,39 +73,15 @@ void TableReader::read(
         m_notices.add(tr("%1 has no table %2.").arg(m_name, table));
         return;
     }
-    const QString rows =
-        "SELECT "_L1 + selection(table, columns) + ",rowid FROM "_L1 + quoted(table);
-    // No sorting by anything else: it would ask for all rows before it gives the first one.
-    const QString sorted = rows + " ORDER BY rowid"_L1;
-    const int idColumn = static_cast<int>(columns.size());
-    std::optional<qint64> last;
-    auto query = m_database.prepare(sorted);
-    while (query && query->next()) {
-        last = query->integer(idColumn);
-        take(*query);
+    const KeyedQuery query{
+        .select = "SELECT "_L1 + selection(table, columns) + ",rowid FROM "_L1 + quoted(table),
+        .condition = {},
+        .key = QStringLiteral("rowid"),
+        .keyColumn = static_cast<int>(columns.size()),
+    };
+    if (!readByKey(m_database, query, take)) {
+        noteDamage();
     }
-    if (query && !query->failed()) {
-        return;
-    }
-    noteDamage();
-    const qint64 lastRead = last.value_or(INT64_MIN);
-    std::optional<qint64> first;
-    auto backwards = m_database.prepare(sorted + " DESC"_L1);
-    while (backwards && backwards->next() && backwards->integer(idColumn) > lastRead) {
-        first = backwards->integer(idColumn);
-        take(*backwards);
-    }
-    if (!backwards || !backwards->failed()) {
-        return;
-    }
-    GapReader between(m_database, rows, idColumn, take);
-    const qint64 begin = last ? *last + 1 : 0; // nobody counts from below
-    if (first) {
-        between.add(begin, *first);
-    } else {
-        between.addAllFrom(begin);
-    }
-    between.read();
 }
 
 formats::Result<formats::Statement> TableReader::prepareRow(
