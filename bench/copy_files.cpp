@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Exports the files of a folder as photos, as a host of the library does.
 //
-//   copy_files SOURCE TARGET             each under its own name
-//   copy_files SOURCE TARGET --one-name  all under the same
-//   copy_files --photo FILE              makes a JPEG of 12 megapixels to copy
+//   copy_files SOURCE TARGET                each under its own name
+//   copy_files --one-name SOURCE TARGET     all under the same
+//   copy_files --photo WIDTH HEIGHT TARGET  makes a JPEG of that size to copy
 #include "driver/CBackupExporter.h"
 #include "model/PRBackup.h"
 #include "model/PRFileItem.h"
@@ -14,16 +14,17 @@
 #include <cstdio>
 #include <filesystem>
 #include <random>
-#include <string_view>
+#include <string>
+#include <vector>
 
 namespace {
 
 constexpr int kPhotos = 21;
 
-bool makePhoto(const QString& path)
+bool makePhoto(int width, int height, const QString& path)
 {
     std::mt19937 noise(1); // NOLINT(cert-msc51-cpp): the same photo each time
-    QImage photo(4032, 3024, QImage::Format_RGB32);
+    QImage photo(width, height, QImage::Format_RGB32);
     for (int y = 0; y < photo.height(); ++y) {
         for (int x = 0; x < photo.width(); ++x) {
             const auto grain = static_cast<int>(noise() % 16);
@@ -53,15 +54,19 @@ PRBackup backupOf(const QDir& source, bool oneName)
 
 int main(int argc, char** argv)
 {
-    if (argc == 3 && std::string_view(argv[1]) == "--photo") {
-        return makePhoto(QString::fromLocal8Bit(argv[2])) ? 0 : 1;
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (arguments.size() == 4 && arguments[0] == "--photo") {
+        const QString path = QString::fromStdString(arguments[3]);
+        return makePhoto(std::stoi(arguments[1]), std::stoi(arguments[2]), path) ? 0 : 1;
     }
-    if (argc < 3) {
-        std::fputs("usage: copy_files SOURCE TARGET [--one-name]\n", stderr);
+    const bool oneName = arguments.size() == 3 && arguments[0] == "--one-name";
+    if (arguments.size() != 2 && !oneName) {
+        std::fputs("usage: copy_files [--one-name] SOURCE TARGET\n", stderr);
         return 2;
     }
-    PRBackup backup = backupOf(QDir(QString::fromLocal8Bit(argv[1])), argc > 3);
-    CBackupExporter().exportBackup(&backup, QDir(QString::fromLocal8Bit(argv[2])), nullptr,
+    const QDir source(QString::fromStdString(arguments[arguments.size() - 2]));
+    PRBackup backup = backupOf(source, oneName);
+    CBackupExporter().exportBackup(&backup, QDir(QString::fromStdString(arguments.back())), nullptr,
         QVector<int>{kPhotos}, false, QStringLiteral("Anna"));
     return 0;
 }
