@@ -43,7 +43,8 @@ public:
     /// The chats that have messages, in any order. Called once.
     virtual std::vector<ChatSummary> chats() = 0;
 
-    /// The messages of a chat in the order in which it shows them.
+    /// The messages of a chat in the order in which it shows them. The text of a picture, film or
+    /// sound is its caption.
     virtual std::vector<PRWhatsappMsg> messages(const ChatSummary& chat) = 0;
 
     /// The files of all messages, chat by chat, and within a chat in the order of the messages.

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace backup {
@@ -26,6 +27,39 @@ private:
     ChatStore& m_store;
     std::size_t m_index;
 };
+
+bool isCaptioned(const PRWhatsappMsg& message)
+{
+    constexpr std::array kinds{MsgType::Picture, MsgType::Video, MsgType::Audio};
+    return !message.media().isEmpty() && !message.content().isEmpty()
+           && std::ranges::find(kinds, message.type()) != kinds.end();
+}
+
+// A page has no room beside a picture, and a table no row for it: its text follows as a message.
+std::vector<PRWhatsappMsg> withCaptionsApart(std::vector<PRWhatsappMsg> messages)
+{
+    const auto captions = std::ranges::count_if(messages, isCaptioned);
+    if (captions == 0) {
+        return messages;
+    }
+    std::vector<PRWhatsappMsg> apart;
+    apart.reserve(messages.size() + static_cast<std::size_t>(captions));
+    for (PRWhatsappMsg& message : messages) {
+        if (!isCaptioned(message)) {
+            apart.push_back(std::move(message));
+            continue;
+        }
+        ChatMessage medium = message.contents();
+        ChatMessage caption = medium;
+        medium.content.clear();
+        caption.type = static_cast<int>(MsgType::Text);
+        caption.media.clear();
+        caption.drawLike = false;
+        apart.emplace_back(std::move(medium));
+        apart.emplace_back(std::move(caption));
+    }
+    return apart;
+}
 
 QString tr(const char* text)
 {
@@ -61,7 +95,8 @@ const PRWhatsappChat* ChatStore::load(std::size_t index)
     if (index != m_loadedIndex) {
         m_loaded.reset(); // its memory is wanted for the next one
         const StoredChat& chat = m_chats[index];
-        m_loaded = std::make_unique<PRWhatsappChat>(chat.app->messages(chat.summary));
+        m_loaded =
+            std::make_unique<PRWhatsappChat>(withCaptionsApart(chat.app->messages(chat.summary)));
         m_loadedIndex = index;
     }
     return m_loaded.get();

@@ -38,6 +38,10 @@ public:
         : m_chats(std::move(chats)), m_loads(loads)
     {
     }
+    explicit Account(std::vector<ChatMessage> further)
+        : m_chats({{.title = "a"}}), m_further(std::move(further))
+    {
+    }
     std::vector<ChatSummary> chats() override { return m_chats; }
     std::vector<PRWhatsappMsg> messages(const ChatSummary& chat) override
     {
@@ -46,6 +50,9 @@ public:
         }
         std::vector<PRWhatsappMsg> messages;
         messages.emplace_back(ChatMessage{.content = "in " + chat.title});
+        for (const ChatMessage& further : m_further) {
+            messages.emplace_back(further);
+        }
         return messages;
     }
     std::vector<ChatFile> files() override
@@ -59,7 +66,8 @@ public:
 
 private:
     std::vector<ChatSummary> m_chats;
-    int* m_loads;
+    std::vector<ChatMessage> m_further; // after the first
+    int* m_loads = nullptr;
 };
 
 class ChatStoreTest : public ::testing::Test {
@@ -67,6 +75,11 @@ protected:
     ChatStore& store(std::vector<ChatSummary> chats, int* loads = nullptr)
     {
         m_store.add(std::make_unique<Account>(std::move(chats), loads));
+        return m_store;
+    }
+    ChatStore& storeWith(std::vector<ChatMessage> messages)
+    {
+        m_store.add(std::make_unique<Account>(std::move(messages)));
         return m_store;
     }
     static QString firstText(PRData& chats, int row)
@@ -119,6 +132,73 @@ TEST_F(ChatStoreTest, MessagesAreLoadedOnceUntilAnotherChatIsAskedFor)
     EXPECT_EQ(firstText(*chats, 1), "in b");
     EXPECT_EQ(firstText(*chats, 0), "in a");
     EXPECT_EQ(loads, 3);
+}
+
+TEST_F(ChatStoreTest, CaptionFollowsItsPictureAsAMessage)
+{
+    const ChatMessage picture{.type = 1,
+        .fromMe = true,
+        .sentDone = false,
+        .date = second(1),
+        .content = "At the harbour",
+        .member = "Ben",
+        .media = "boat.jpg",
+        .broadcast = true,
+        .drawLike = true,
+        .likeType = 1,
+        .likeCount = 2};
+    const auto chats = storeWith({picture, {.content = "next"}}).chats();
+    auto* chat = dynamic_cast<PRWhatsappItem*>(chats->at(0, true));
+    ASSERT_NE(chat, nullptr);
+    const auto& messages = chat->detailContent()->messages();
+    ASSERT_EQ(messages.size(), 4);
+    const ChatMessage& shown = messages[1]->contents();
+    EXPECT_EQ(shown.type, 1);
+    EXPECT_EQ(shown.media, "boat.jpg");
+    EXPECT_EQ(shown.content, "");
+    EXPECT_TRUE(shown.drawLike);
+    EXPECT_EQ(shown.likeCount, 2);
+    const ChatMessage& caption = messages[2]->contents();
+    EXPECT_EQ(caption.type, 0);
+    EXPECT_EQ(caption.media, "");
+    EXPECT_EQ(caption.content, "At the harbour");
+    EXPECT_FALSE(caption.drawLike);
+    for (const ChatMessage& both : {shown, caption}) {
+        EXPECT_TRUE(both.fromMe);
+        EXPECT_FALSE(both.sentDone);
+        EXPECT_TRUE(both.broadcast);
+        EXPECT_EQ(both.date, second(1));
+        EXPECT_EQ(both.member, "Ben");
+    }
+    EXPECT_EQ(messages[3]->content(), "next");
+}
+
+TEST_F(ChatStoreTest, OnlyPicturesFilmsAndSoundsHaveCaptionsOfTheirOwn)
+{
+    struct Row {
+        const char* what = nullptr;
+        ChatMessage message;
+        int more = 0;
+    };
+    const std::vector<Row> rows{
+        {"picture", {.type = 1, .content = "text", .media = "a"}, 1},
+        {"film", {.type = 2, .content = "text", .media = "a"}, 1},
+        {"sound", {.type = 3, .content = "text", .media = "a"}, 1},
+        {"no caption", {.type = 1, .media = "a"}, 0},
+        {"not on the phone: an icon has room beside it", {.type = 1, .content = "text"}, 0},
+        {"document, whose text is its name", {.type = 8, .content = "a.pdf", .media = "a"}, 0},
+        {"link with a preview", {.type = 7, .content = "text", .media = "a"}, 0},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        NoFiles files;
+        ChatStore store(kTypes, files);
+        store.add(std::make_unique<Account>(std::vector<ChatMessage>{row.message}));
+        const auto chats = store.chats();
+        auto* chat = dynamic_cast<PRWhatsappItem*>(chats->at(0, true));
+        ASSERT_NE(chat, nullptr);
+        EXPECT_EQ(chat->detailContent()->messages().size(), 2 + row.more);
+    }
 }
 
 TEST_F(ChatStoreTest, FilesLieInDirectoriesOfTheirChats)

@@ -108,9 +108,9 @@ TEST_F(KikChatsTest, FirstBytesTellWhatAFileIs)
             (4, 'ddd'), (1, 'bbb'))"});
     const QString jpeg = QString::fromUtf8(kJpeg);
     const QString film = QString::fromUtf8(kFilm);
-    EXPECT_EQ(
-        shownMessages(kChats, 0), QStringList({"< [1] Look {" + jpeg + "}", "< [2]  {" + film + "}",
-                                      "> [2]  {" + film + "}", "< [8]  {unknown}", "< [8] "}));
+    EXPECT_EQ(shownMessages(kChats, 0),
+        QStringList({"< [1]  {" + jpeg + "}", "< [0] Look", "< [2]  {" + film + "}",
+            "> [2]  {" + film + "}", "< [8]  {unknown}", "< [8] "}));
     EXPECT_EQ(files(kFiles),
         QStringList({"aaa.jpg < Mia = " + jpeg, "bbb.mp4 < Mia = " + film,
             "bbb.mp4 < Mia = " + film, "ccc < Mia = unknown", "eee.jpg < _ = " + jpeg}));

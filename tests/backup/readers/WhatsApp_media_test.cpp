@@ -31,9 +31,9 @@ TEST_F(WhatsAppMediaTest, MediaIsTheFileElseItsThumbnail)
                << media(7, 1, 1, columns, "'../../whole.jpg', '/etc/passwd', NULL")
                << media(8, 1, 1, columns, "'', '', NULL");
     open(statements);
-    EXPECT_EQ(messages(),
-        QStringList({"1 < Both = whole.jpg", "1 < Never loaded = small.thumb", "2 <  = kept.thumb",
-            "3 < ", "1 <  = whole.jpg", QString("1 <  = Grüße.jpg"), "1 < ", "1 < "}));
+    EXPECT_EQ(messages(), QStringList({"1 <  = whole.jpg", "0 < Both", "1 <  = small.thumb",
+                              "0 < Never loaded", "2 <  = kept.thumb", "3 < ", "1 <  = whole.jpg",
+                              QString("1 <  = Grüße.jpg"), "1 < ", "1 < "}));
 }
 
 TEST_F(WhatsAppMediaTest, UnknownMessageMayCarryAFile)
