@@ -81,6 +81,15 @@ QString shownPlace(const QString& domain, const QString& path)
     return domain + QChar(u':') + path;
 }
 
+void insertPlaces(const PRData& set, QSet<QString>& places)
+{
+    for (int row = 0; row < set.count(1); ++row) {
+        if (const auto* file = dynamic_cast<DeviceFileItem*>(set.at(row, true))) {
+            places.insert(shownPlace(file->place().domain, file->place().path));
+        }
+    }
+}
+
 QString directoryOf(const QString& path)
 {
     return path.left(std::max(0, path.lastIndexOf(QChar(u'/'))));
@@ -120,11 +129,7 @@ QSet<QString> AppFiles::filesOfChats() const
 {
     QSet<QString> places;
     for (const PRData* set : m_chatFiles) {
-        for (int row = 0; row < set->count(1); ++row) {
-            if (const auto* file = dynamic_cast<DeviceFileItem*>(set->at(row, true))) {
-                places.insert(shownPlace(file->place().domain, file->place().path));
-            }
-        }
+        insertPlaces(*set, places);
     }
     return places;
 }
@@ -133,11 +138,12 @@ void AppFiles::list()
 {
     const QSet<QString> listed = filesOfChats();
     for (const QString& domain : std::as_const(m_domains)) {
-        const QStringList paths = m_folder.filesBelow(domain, QString());
-        for (const QString& path : paths) {
-            if (!listed.contains(shownPlace(domain, path))) {
-                add(domain, path);
-            }
+        QStringList paths = m_folder.filesBelow(domain, QString());
+        const auto end = std::remove_if(paths.begin(), paths.end(),
+            [&](const QString& path) { return listed.contains(shownPlace(domain, path)); });
+        paths.erase(end, paths.end());
+        for (const QString& path : std::as_const(paths)) {
+            add(domain, path);
         }
     }
 }
