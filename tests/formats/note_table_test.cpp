@@ -91,6 +91,12 @@ TEST(NoteTable, OfTooManyCellsIsNotBuilt)
     EXPECT_EQ(*table, (NoteTable{{"only text"}}));
 }
 
+bool isRectangular(const NoteTable& table)
+{
+    return std::ranges::all_of(
+        table, [&](const auto& row) { return row.size() == table.front().size(); });
+}
+
 TEST(NoteTable, SurvivesChangedBytes)
 {
     const auto sound = formats::inflated(spanOf(sample::noteTable(kRows)), 1 << 20);
@@ -105,8 +111,7 @@ TEST(NoteTable, SurvivesChangedBytes)
         }
         if (const auto table = parsed(sample::gzipped(changed))) {
             ++read;
-            ASSERT_TRUE(std::ranges::all_of(
-                *table, [&](const auto& row) { return row.size() == table->front().size(); }));
+            ASSERT_TRUE(isRectangular(*table));
         }
     }
     EXPECT_GT(read, 100);
