@@ -207,9 +207,9 @@ QSet<qint64> readRepeating(const TableReader& calendar)
     return items;
 }
 
-std::vector<Reminder> readCalendar(const TableReader& calendar)
-{
-    enum TaskColumn : int {
+/// The columns of `CalendarItem` that tell of a task.
+struct Task {
+    enum Column : int {
         Id,
         Type,
         List,
@@ -222,34 +222,38 @@ std::vector<Reminder> readCalendar(const TableReader& calendar)
         AllDay,
         CompletionDate,
         Priority,
-        Hidden
+        Hidden,
     };
+};
+
+std::vector<Reminder> readCalendar(const TableReader& calendar)
+{
     const std::array columns{WantedColumn{"ROWID"_L1, true}, WantedColumn{"entity_type"_L1},
         WantedColumn{"calendar_id"_L1, true}, WantedColumn{"display_order"_L1},
         WantedColumn{"summary"_L1, true}, WantedColumn{"description"_L1}, WantedColumn{"url"_L1},
         WantedColumn{"due_date"_L1, true}, WantedColumn{"due_tz"_L1},
         WantedColumn{"due_all_day"_L1}, WantedColumn{"completion_date"_L1, true},
         WantedColumn{"priority"_L1}, WantedColumn{"hidden"_L1}};
-    const QHash<qint64, struct List> lists = readCalendars(calendar);
+    const QHash<qint64, List> lists = readCalendars(calendar);
     const QSet<qint64> repeating = readRepeating(calendar);
     std::vector<Reminder> reminders;
     calendar.read("CalendarItem"_L1, columns, [&](const formats::Statement& row) {
-        if (row.integer(Type) != kTask || row.integer(Hidden) != 0) {
+        if (row.integer(Task::Type) != kTask || row.integer(Task::Hidden) != 0) {
             return;
         }
-        const QDateTime completion = cocoaDate(row, CompletionDate);
-        const bool floating = row.text(Zone) == "_float"_L1;
-        reminders.push_back({.id = row.integer(Id),
-            .listId = row.integer(List),
-            .order = row.integer(Order),
-            .list = lists.value(row.integer(List)).name,
-            .title = row.text(Title),
-            .notes = withAddress(row.text(Notes), row.text(Address)),
-            .due = dueText(cocoaDate(row, DueDate), row.integer(AllDay) != 0, floating),
+        const QDateTime completion = cocoaDate(row, Task::CompletionDate);
+        const bool floating = row.text(Task::Zone) == "_float"_L1;
+        reminders.push_back({.id = row.integer(Task::Id),
+            .listId = row.integer(Task::List),
+            .order = row.integer(Task::Order),
+            .list = lists.value(row.integer(Task::List)).name,
+            .title = row.text(Task::Title),
+            .notes = withAddress(row.text(Task::Notes), row.text(Task::Address)),
+            .due = dueText(cocoaDate(row, Task::DueDate), row.integer(Task::AllDay) != 0, floating),
             .completed = completion.isValid(),
             .completedAt = CCommonUtils::datetimeToMinute(completion, true),
-            .priority = row.integer(Priority),
-            .repeats = repeating.contains(row.integer(Id))});
+            .priority = row.integer(Task::Priority),
+            .repeats = repeating.contains(row.integer(Task::Id))});
     });
     return reminders;
 }

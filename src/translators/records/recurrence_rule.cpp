@@ -60,8 +60,8 @@ int dayNumber(const QString& code)
 
 QString dayName(int day)
 {
-    return day >= 1 && day <= static_cast<int>(kDays.size()) ? QString(kDays.at(day - 1))
-                                                             : QString();
+    const bool isDay = day >= 1 && day <= static_cast<int>(kDays.size());
+    return isDay ? QString(kDays.at(static_cast<std::size_t>(day) - 1)) : QString();
 }
 
 // "0MO,0WE": of several days the last one counts. "+2TU" is the second Tuesday, while the sign of
