@@ -73,9 +73,9 @@ TEST_F(FileExporterFaults, AFullDiskTakesTheCopyAwayAndIsAFailure)
 {
     const QByteArray bytes(5 * kChunk, 'x');
     const QString source = tree.write("in/a", bytes);
-    for (const rlim_t room : {0, 1, kChunk, kChunk + 1, 5 * kChunk - 1}) {
+    for (const int room : {0, 1, kChunk, kChunk + 1, 5 * kChunk - 1}) {
         SCOPED_TRACE(room);
-        const support::LargestFile limit(room);
+        const support::LargestFile limit(static_cast<rlim_t>(room));
         QString name = "a.mov";
         EXPECT_FALSE(exporter.write(source, name));
         EXPECT_EQ(name, tree.path("out/Cat/a.mov"));

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 
 using support::ClosedPort;
@@ -342,7 +343,8 @@ TEST(OvCurlWrapper, FailsWhereTheFileCannotBeMade)
 
 TEST(OvCurlWrapper, LeavesNoPartOfABodyForWhichTheDiskHasNoRoom)
 {
-    for (const std::size_t size : {10, 3'000'000}) { // seen at the end, and on the way
+    constexpr std::array<std::size_t, 2> sizes{10, 3'000'000}; // seen at the end, on the way
+    for (const std::size_t size : sizes) {
         SCOPED_TRACE(size);
         HttpServer server;
         server.answer("/a", HttpServer::reply(200, std::string(size, 'b')));
