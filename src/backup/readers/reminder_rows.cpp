@@ -208,22 +208,20 @@ QSet<qint64> readRepeating(const TableReader& calendar)
 }
 
 /// The columns of `CalendarItem` that tell of a task.
-struct Task {
-    enum Column : int {
-        Id,
-        Type,
-        List,
-        Order,
-        Title,
-        Notes,
-        Address,
-        DueDate,
-        Zone,
-        AllDay,
-        CompletionDate,
-        Priority,
-        Hidden,
-    };
+enum TaskColumn : int {
+    TaskId,
+    TaskType,
+    TaskList,
+    TaskOrder,
+    TaskTitle,
+    TaskNotes,
+    TaskAddress,
+    TaskDueDate,
+    TaskZone,
+    TaskAllDay,
+    TaskCompletionDate,
+    TaskPriority,
+    TaskHidden,
 };
 
 std::vector<Reminder> readCalendar(const TableReader& calendar)
@@ -238,22 +236,22 @@ std::vector<Reminder> readCalendar(const TableReader& calendar)
     const QSet<qint64> repeating = readRepeating(calendar);
     std::vector<Reminder> reminders;
     calendar.read("CalendarItem"_L1, columns, [&](const formats::Statement& row) {
-        if (row.integer(Task::Type) != kTask || row.integer(Task::Hidden) != 0) {
+        if (row.integer(TaskType) != kTask || row.integer(TaskHidden) != 0) {
             return;
         }
-        const QDateTime completion = cocoaDate(row, Task::CompletionDate);
-        const bool floating = row.text(Task::Zone) == "_float"_L1;
-        reminders.push_back({.id = row.integer(Task::Id),
-            .listId = row.integer(Task::List),
-            .order = row.integer(Task::Order),
-            .list = lists.value(row.integer(Task::List)).name,
-            .title = row.text(Task::Title),
-            .notes = withAddress(row.text(Task::Notes), row.text(Task::Address)),
-            .due = dueText(cocoaDate(row, Task::DueDate), row.integer(Task::AllDay) != 0, floating),
+        const QDateTime completion = cocoaDate(row, TaskCompletionDate);
+        const bool floating = row.text(TaskZone) == "_float"_L1;
+        reminders.push_back({.id = row.integer(TaskId),
+            .listId = row.integer(TaskList),
+            .order = row.integer(TaskOrder),
+            .list = lists.value(row.integer(TaskList)).name,
+            .title = row.text(TaskTitle),
+            .notes = withAddress(row.text(TaskNotes), row.text(TaskAddress)),
+            .due = dueText(cocoaDate(row, TaskDueDate), row.integer(TaskAllDay) != 0, floating),
             .completed = completion.isValid(),
             .completedAt = CCommonUtils::datetimeToMinute(completion, true),
-            .priority = row.integer(Task::Priority),
-            .repeats = repeating.contains(row.integer(Task::Id))});
+            .priority = row.integer(TaskPriority),
+            .repeats = repeating.contains(row.integer(TaskId))});
     });
     return reminders;
 }

@@ -73,7 +73,8 @@ protected:
 
     void expectAnyOrder()
     {
-        for (const std::size_t i : {5, 0, 11, 11, 3, 4, 5, 6, 7, 2, 8, 9, 9, 0}) {
+        for (const std::size_t i :
+            std::vector<std::size_t>{5, 0, 11, 11, 3, 4, 5, 6, 7, 2, 8, 9, 9, 0}) {
             EXPECT_EQ(numbers(i), expected(i)) << i;
         }
     }
@@ -142,7 +143,7 @@ TEST_F(ConversationRowsCacheTest, AnyOrderFindsTheSame)
 
 TEST_F(ConversationRowsCacheTest, RowsPutAsideOnDiskAreTheSame)
 {
-    for (const std::size_t batchMessages : {1, 49, 50, 120, 599}) {
+    for (const std::size_t batchMessages : std::vector<std::size_t>{1, 49, 50, 120, 599}) {
         SCOPED_TRACE(batchMessages);
         open(batchMessages);
         expectWalks(2);
@@ -165,7 +166,7 @@ TEST_F(ConversationRowsCacheTest, DiskWithoutRoomIsNoFailure)
 
 TEST_F(ConversationRowsCacheTest, AttachmentsAreMarkedWhicheverWayRowsAreRead)
 {
-    for (const std::size_t batchMessages : {100, 1000}) {
+    for (const std::size_t batchMessages : std::vector<std::size_t>{100, 1000}) {
         open(batchMessages);
         EXPECT_EQ(markedIds(), std::set<std::int64_t>({1, 600}));
         EXPECT_EQ(markedIds(), std::set<std::int64_t>({1, 600}));
