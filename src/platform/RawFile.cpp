@@ -69,7 +69,7 @@ qint64 RawFile::write(const char* bytes, qint64 size)
     qint64 done = 0;
     while (done < size) {
         const ssize_t put = ::write(m_file, bytes + done, static_cast<size_t>(size - done));
-        if (put < 0 && errno != EINTR) {
+        if (put == 0 || (put < 0 && errno != EINTR)) {
             break;
         }
         done += put > 0 ? put : 0;

@@ -1,41 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What samples/backup/whatsapp.json says, as it comes out of the sample backup.
-#include "ChatTest.h"
-
-#include <QImageReader>
-
-#include <algorithm>
+#include "SampleChatTest.h"
 
 namespace {
 
-class SampleWhatsAppTest : public ChatTest {
-protected:
-    void SetUp() override
-    {
-        take(backup::openBackupFolder(QStringLiteral(DATAEXPORT_BUILD_DIR "/samples/backup")));
-    }
-
-    QStringList shown(int dataType, int row)
-    {
-        QStringList texts;
-        for (const PRWhatsappMsg& message : messagesOf(dataType, row)) {
-            ChatMessage plain = message.contents();
-            plain.media = QString();
-            texts.append(shownMessage(plain));
-        }
-        return texts;
-    }
-
-    int picturesThatCanBeDrawn(int dataType, int row)
-    {
-        return static_cast<int>(
-            std::ranges::count_if(messagesOf(dataType, row), [](const PRWhatsappMsg& message) {
-                QImageReader reader(message.media());
-                reader.setDecideFormatFromContent(true);
-                return !message.media().isEmpty() && reader.canRead();
-            }));
-    }
-};
+using SampleWhatsAppTest = SampleChatTest;
 
 TEST_F(SampleWhatsAppTest, ChatsStandByDate)
 {
